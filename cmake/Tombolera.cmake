@@ -1,0 +1,41 @@
+# Flags of the whole project and the functions that make its targets.
+
+add_library(tombolera_avisos INTERFACE)
+target_compile_options(tombolera_avisos INTERFACE
+    -Wall -Wextra -Wshadow -Wconversion -Wcast-qual -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual
+    $<$<BOOL:${TOMBOLERA_ESTRICTO}>:-Werror>)
+if(TOMBOLERA_SANEADORES)
+    add_compile_options(-fsanitize=${TOMBOLERA_SANEADORES} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${TOMBOLERA_SANEADORES})
+endif()
+
+# tombolera_modulo(NAME [DEPS target...]): the static library of the folder it is called from.
+# Only the folder itself and those of its dependencies are searched for headers, so that an
+# include against the order of the modules does not compile.
+function(tombolera_modulo nombre)
+    cmake_parse_arguments(M "" "" "DEPS" ${ARGN})
+    file(GLOB_RECURSE fuentes CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+    file(GLOB_RECURSE cabeceras CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+    add_library(tombolera_${nombre} STATIC ${fuentes} ${cabeceras})
+    set(carpetas ${CMAKE_CURRENT_SOURCE_DIR})
+    foreach(cabecera IN LISTS cabeceras)
+        get_filename_component(carpeta ${cabecera} DIRECTORY)
+        list(APPEND carpetas ${carpeta})
+    endforeach()
+    list(REMOVE_DUPLICATES carpetas)
+    target_include_directories(tombolera_${nombre} PUBLIC ${carpetas})
+    target_link_libraries(tombolera_${nombre} PUBLIC ${M_DEPS} PRIVATE tombolera_avisos)
+endfunction()
+
+# tombolera_prueba(NAME LIBS target... LABELS rapida|lenta|ui|lote|fuzz): one test program from
+# the *_test.cpp of the folder it is called from.
+function(tombolera_prueba nombre)
+    cmake_parse_arguments(P "" "" "LIBS;LABELS;FUENTES" ${ARGN})
+    if(NOT P_FUENTES)
+        file(GLOB_RECURSE P_FUENTES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*_test.cpp)
+    endif()
+    add_executable(prueba_${nombre} ${P_FUENTES})
+    target_link_libraries(prueba_${nombre} PRIVATE ${P_LIBS} tombolera_apoyo GTest::gtest_main tombolera_avisos)
+    gtest_discover_tests(prueba_${nombre} TEST_PREFIX ${nombre}. DISCOVERY_MODE PRE_TEST
+        PROPERTIES LABELS "${P_LABELS}" TIMEOUT 900)
+endfunction()

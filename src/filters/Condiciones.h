@@ -1,0 +1,30 @@
+// The conditions of a piece of work: the nineteen records, their rows and what they eliminated.
+#pragma once
+
+#include "Registros.h"
+#include "lstFiltros.h"
+
+struct Condiciones {
+    RegistroALTOSBAJOS ALTOSBAJOS;
+    RegistroDECENAS DECENAS;
+    RegistroDISTANCIAS DISTANCIAS;
+    RegistroGRUPOS GRUPOS;
+    RegistroGRUPOSRELACIONADOS GRUPOSRELACIONADOS;
+    RegistroHOMOLOGOS HOMOLOGOS;
+    RegistroPARESIMPARES PARESIMPARES;
+    RegistroSEGUIDOS SEGUIDOS;
+    RegistroSUMAS SUMAS;
+    RegistroTERMINACIONES TERMINACIONES;
+    RegistroPOSICIONES POSICIONES;
+    RegistroEXTERIORESINTERIORES EXTERIORESINTERIORES;
+    RegistroSUPERIORESINFERIORES SUPERIORESINFERIORES;
+    RegistroCOLINDANTES COLINDANTES;
+    RegistroSORTEOSANTERIORES SORTEOSANTERIORES;
+    RegistroSUMASPORTRIOS SUMASPORTRIOS;
+    RegistroVALORACIONES VALORACIONES;
+    RegistroCOEFICIENTERENTABILIDAD COEFICIENTERENTABILIDAD;
+    RegistroGRUPOSENTRELIMITES GRUPOSENTRELIMITES;
+
+    ListaFiltros lstFiltros;
+    std::array<int32_t, NFiltros> EliminadasPorFiltro{};
+};

@@ -1,0 +1,17 @@
+// The moves of whole systems between the bet tables.
+#pragma once
+
+#include "EstadoTrabajo.h"
+
+/// `ApuestaEliminada` for `ApuestasEnTabla` bets, all alive.
+void PrepararEliminadas(EstadoTrabajo& trabajo);
+
+/// `TablaApuestas` in 7 rows from `ApuestasImportadas`: numbers become positions in the base, digits stay.
+void TraducirImportadas(EstadoTrabajo& trabajo);
+
+/// `ApuestasCondicionadas` from the bets of `TablaApuestas` that are alive, in order, with as many rows.
+void CopiarSupervivientes(EstadoTrabajo& trabajo);
+
+/// `ApuestasReducidas` in 7 rows from `ApuestasCondicionadas`: positions become numbers; row 7 is
+/// copied when there is one and 0 otherwise.
+void TraducirCondicionadas(EstadoTrabajo& trabajo);

@@ -1,0 +1,7 @@
+#include "entornoQt.h"
+
+Entorno EntornoQt() {
+    Entorno entorno;
+    entorno.Ahora = AhoraDelSistema;
+    return entorno;
+}

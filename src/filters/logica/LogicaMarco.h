@@ -1,0 +1,39 @@
+// What the dialogs of all nineteen filters have in common: the switch and the number fields.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "Sesion.h"
+
+/// The switch of the dialog of row k. The row holds the state; here is only the way to it.
+struct LogicaMarco {
+    Sesion& sesion;
+    int k;
+
+    bool Activo() const;
+    /// Turns the row to "Sí". Called after every change of a parameter, also one that changes nothing.
+    void ActivarFiltro();
+    /// `imgActivar`: toggles the row, whatever the parameters are.
+    void PulsarActivar();
+    /// The state in words: "Condición activada" or "Condición desactivada".
+    std::string lblActivar() const;
+};
+
+/// Puts what was typed or pasted in a number field, without the keys that the field does not take,
+/// and turns the filter on.
+void CambiarCampo(LogicaMarco& marco, std::string& campo, const std::string& texto);
+
+/// Whether nothing but blanks stands in the field.
+bool EnBlanco(const std::string& campo);
+
+/// The field's value. What is no number, or too long a one, counts as the highest of 32 bits, so that
+/// a test of an upper bound refuses it.
+int32_t ValorCampo(const std::string& campo);
+
+/// The highest value that a bound of 16 bits takes.
+inline constexpr int32_t MaximoIntervalo = INT16_MAX;
+
+/// The interval in two fields, and back. Both fields fit 16 bits by then.
+void MostrarIntervalo(const Intervalo& intervalo, std::string& minimo, std::string& maximo);
+Intervalo LeerIntervalo(const std::string& minimo, const std::string& maximo);

@@ -23,7 +23,7 @@ struct LogicaFiltroTERMINACIONES {
     LogicaMarco marco{sesion, kTERMINACIONES};
 
     std::array<std::string, 10> txtAciertos{}; ///< by last digit; a display, never parsed
-    std::string txtSumaTerminacionesMinimo, txtSumaTerminacionesMaximo;
+    std::string txtSumaTerminacionesMinimo{}, txtSumaTerminacionesMaximo{};
     std::array<bool, 10> chkFigura{};
 
     void Abrir();

@@ -1,0 +1,83 @@
+// The kernels of the evaluators: each tests the bets of one stretch against a small table.
+//
+// A kernel marks the live bets that its table rejects and returns how many it marked. It reads the
+// positions of the bets, never the base: whoever prepares the table has put the base into it.
+// Every kernel has a scalar twin of the same result, for processors without byte shuffles.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "Barrido.h"
+
+/// One byte for each position in the base; positions are below 64.
+using PorPosicion = std::array<uint8_t, 64>;
+/// One byte for each small count.
+using PorCuenta = std::array<uint8_t, 16>;
+/// One bit for each sum, bit s % 8 of byte s / 8.
+using MapaSumas = std::array<uint8_t, 64>;
+
+/// The values of a bet's six positions add up to a count, at most 15, that must be one that passes.
+struct alignas(64) TablasCuenta {
+    PorPosicion Valor{};
+    PorCuenta Pasa{}; ///< 1 or 0
+};
+int32_t NucleoCuenta(const Tramo& tramo, const TablasCuenta& tablas);
+int32_t NucleoCuentaEscalar(const Tramo& tramo, const TablasCuenta& tablas);
+
+/// A bet's numbers fall into up to ten classes. Each class turns its count into a code; the codes are
+/// added, saturating, and bits 0 to 3 of their sum say whether the bet passes. A code of `Rechazo`
+/// fails it whatever the others. Besides, the sum of the six class numbers must be one that passes.
+struct alignas(64) TablasClases {
+    static constexpr uint8_t Rechazo = 0x80;
+    PorPosicion Clase{};                ///< 0 to 9
+    PorPosicion SumaPasa{};             ///< by the sum of the classes, 1 or 0
+    std::array<PorCuenta, 10> Codigo{}; ///< by class and count; classes that do not exist stay 0
+    PorCuenta Pasa{};                   ///< by the low four bits of the sum of codes, 1 or 0
+    int Clases = 0;                     ///< how many exist
+};
+int32_t NucleoClases(const Tramo& tramo, const TablasClases& tablas);
+int32_t NucleoClasesEscalar(const Tramo& tramo, const TablasClases& tablas);
+
+/// The sum of the six numbers must be in `Mapa`.
+struct alignas(64) TablasSumas {
+    PorPosicion Numero{};
+    MapaSumas Mapa{};
+};
+int32_t NucleoSumas(const Tramo& tramo, const TablasSumas& tablas);
+int32_t NucleoSumasEscalar(const Tramo& tramo, const TablasSumas& tablas);
+
+/// The sums of the three first and of the three last numbers must each be in its map.
+struct alignas(64) TablasTrios {
+    PorPosicion Numero{};
+    MapaSumas Primeros{}, Ultimos{};
+};
+int32_t NucleoTrios(const Tramo& tramo, const TablasTrios& tablas);
+int32_t NucleoTriosEscalar(const Tramo& tramo, const TablasTrios& tablas);
+
+/// The differences 2-1, 3-2, 4-3, 5-4, 6-5 and 6-1 must each lie in [Minimo, Minimo + Ancho].
+struct alignas(64) TablasDistancias {
+    PorPosicion Numero{};
+    std::array<int8_t, 6> Minimo{}; ///< -64 to 64
+    std::array<uint8_t, 6> Ancho{}; ///< 0 to 128
+};
+int32_t NucleoDistancias(const Tramo& tramo, const TablasDistancias& tablas);
+int32_t NucleoDistanciasEscalar(const Tramo& tramo, const TablasDistancias& tablas);
+
+/// Bit k of the index into `Pasa` is set when number k + 2 follows number k + 1.
+struct alignas(64) TablasSeguidos {
+    PorPosicion Numero{};
+    std::array<uint8_t, 64> Pasa{}; ///< 32 in use, 1 or 0
+};
+int32_t NucleoSeguidos(const Tramo& tramo, const TablasSeguidos& tablas);
+int32_t NucleoSeguidosEscalar(const Tramo& tramo, const TablasSeguidos& tablas);
+
+/// Two cells touch when their codes differ by an entry of `Toca`; the count of numbers that touch
+/// another one must be one that passes.
+struct alignas(64) TablasColindantes {
+    PorPosicion Celda{}; ///< code of the number's cell, at most 127
+    PorCuenta Toca{};    ///< by the absolute difference, 1 or 0; 16 and more never touch
+    PorCuenta Pasa{};    ///< by count, 1 or 0
+};
+int32_t NucleoColindantes(const Tramo& tramo, const TablasColindantes& tablas);
+int32_t NucleoColindantesEscalar(const Tramo& tramo, const TablasColindantes& tablas);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 
 #include "Entorno.h"
 #include "EstadoTrabajo.h"
@@ -25,6 +26,8 @@ struct Tramo {
 template <class Nucleo>
 int32_t Barrer(EstadoTrabajo& trabajo, Entorno& entorno, Nucleo&& nucleo) {
     const int64_t total = trabajo.ApuestasEnTabla;
+    if (total == 0) return 0;
+    std::memset(trabajo.ApuestaEliminada.Fila(1) + total, 1, 64); // a copy of the table lacks them
     int32_t eliminadas = 0;
     int64_t desde = 0;
     for (int64_t turno = ApuestasPorTurno; desde < total; turno += ApuestasPorTurno) {

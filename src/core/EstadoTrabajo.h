@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Juegos.h"
@@ -14,6 +15,7 @@ enum : int { PronosticoManual = 0, PronosticoAleatorio = 1, PronosticoDesdeArchi
 
 /// Positions of the list of digit modes.
 enum : int { AlDirecto = 0, Secuenciales = 1, Aleatorios = 2 };
+inline constexpr std::array<std::string_view, 3> NombresTipoReintegro{"Al directo", "Secuenciales", "Aleatorios"};
 
 /// The three counts of the main window. While a filter runs, or an import analyses, `Progreso`
 /// holds the text that stands in place of the conditioned count.

@@ -67,3 +67,11 @@ std::string Codigo8AUtf8(std::string_view bytes) {
     }
     return utf8;
 }
+
+bool EsUtf8(std::string_view texto) {
+    while (!texto.empty()) {
+        const bool escrito = texto.starts_with("\xEF\xBF\xBD"); // U+FFFD itself, which is also what a broken one gives
+        if (Siguiente(texto) == 0xFFFD && !escrito) return false;
+    }
+    return true;
+}

@@ -9,3 +9,6 @@ std::string Utf8ACodigo8(std::string_view utf8);
 
 /// Windows-1252 to UTF-8; the five codes without a character become "?".
 std::string Codigo8AUtf8(std::string_view bytes);
+
+/// Whether the text is sound UTF-8, as plain ASCII always is.
+bool EsUtf8(std::string_view texto);

@@ -1,0 +1,62 @@
+#include "ComandosFichero.h"
+
+#include <algorithm>
+#include <array>
+
+#include "Bloqueo.h"
+#include "FicheroAtomico.h"
+#include "Ficheros.h"
+#include "modGeneral.h"
+
+namespace {
+
+constexpr int32_t ApuestasSinPreguntar = 3000000;
+constexpr int64_t ApuestasPorBloque = 6000;
+
+bool EscribirLineas(FicheroAtomico& fichero, const Tabla& apuestas, int64_t cantidad, Entorno& entorno) {
+    std::array<std::string, 256> textos;
+    for (size_t n = 0; n < textos.size(); ++n) textos[n] = Formato00(static_cast<int>(n));
+    std::string bloque;
+    for (int64_t i = 1; i <= cantidad; ++i) {
+        for (int r = 1; r <= 6; ++r) bloque += textos[apuestas(r, i)];
+        bloque += "\r\n";
+        if (i % ApuestasPorBloque != 0 && i != cantidad) continue;
+        if (!fichero.Escribir(bloque)) return false;
+        bloque.clear();
+        entorno.CederTurno();
+    }
+    return true;
+}
+
+} // namespace
+
+bool VerApuestas(Sesion& sesion, Entorno& entorno) {
+    EstadoTrabajo& trabajo = sesion.trabajo;
+    if (trabajo.Contador.Reducidas == 0) return Fallo(entorno, "ERROR: No hay apuestas generadas");
+    if (trabajo.Contador.Reducidas > ApuestasSinPreguntar &&
+        !entorno.Preguntar("Se han generado más de 3.000.000 de apuestas, ¿ desea continuar ?"))
+        return false;
+    const std::string ruta = entorno.CarpetaInformes + "/TOMBOLERA_TEMP.txt";
+    FicheroAtomico fichero;
+    bool escrito = false;
+    {
+        const Bloqueo bloqueo(trabajo);
+        const Tabla& apuestas = trabajo.ApuestasReducidas;
+        const int64_t cantidad = std::min<int64_t>(trabajo.Contador.Reducidas, apuestas.Apuestas());
+        escrito = fichero.Abrir(ruta) && EscribirLineas(fichero, apuestas, cantidad, entorno) && fichero.Confirmar();
+    }
+    if (!escrito) return FalloAlGuardar(entorno, fichero.Fallo());
+    entorno.VerInforme(ruta);
+    return true;
+}
+
+bool ValidarOnLine(const Sesion& sesion, Entorno& entorno) {
+    static constexpr std::array<const char*, 3> Caminos{"/primitiva/archivos", "/bonoloto/archivos",
+                                                        "/eurodreams/archivos"};
+    if (entorno.Sitio.empty()) return Fallo(entorno, "ERROR: No hay ningún sitio de validación configurado");
+    std::string direccion = entorno.Sitio;
+    while (direccion.ends_with('/')) direccion.pop_back();
+    // Whether the page opens is the browser's business.
+    entorno.AbrirDireccion(direccion + Caminos[static_cast<size_t>(sesion.trabajo.cboTipoJuego)]);
+    return true;
+}

@@ -53,6 +53,7 @@ struct Entorno {
 
     std::string CarpetaInformes = "."; ///< where the report files go
     std::string Sitio;                 ///< address of the outside site, empty when none is set
+    std::string Manual;                ///< address of the installed manual, empty when there is none
     char SeparadorMiles = '.';
     char SeparadorDecimal = ',';
 };

@@ -1,13 +1,275 @@
 #include "frmPrincipal.h"
 
-#include "TextoQt.h"
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QMimeData>
+#include <QTimer>
+#include <QTreeWidget>
+#include <QUrl>
 
-frmPrincipal::frmPrincipal(Sesion& sesion, Entorno& entorno) : logica{sesion, entorno} {
+#include "TextoQt.h"
+#include "VistaFiltros.h"
+#include "tema.h"
+
+namespace {
+
+constexpr int AnchoBoleto = 360;
+
+QComboBox* CrearLista(QWidget* padre, const QString& nombre, const QString& accesible, const QStringList& textos) {
+    auto* lista = new QComboBox(padre);
+    lista->setObjectName(nombre);
+    lista->setAccessibleName(accesible);
+    lista->addItems(textos);
+    return lista;
+}
+
+// The path of the one base file that is dragged, empty for anything else.
+QString BaseArrastrada(const QMimeData* datos) {
+    if (!datos->hasUrls() || datos->urls().size() != 1) return {};
+    const QString ruta = datos->urls().constFirst().toLocalFile();
+    return QFileInfo(ruta).suffix().compare(Q("xml"), Qt::CaseInsensitive) == 0 ? ruta : QString();
+}
+
+} // namespace
+
+frmPrincipal::frmPrincipal(Sesion& sesion, Entorno& entorno) : logica{sesion, entorno}, pintor([this] { Pintar(); }) {
     setObjectName(Q("frmPrincipal"));
+    setWindowIcon(IconoPrograma());
+    setAcceptDrops(true);
+    barra = CrearBarraOrdenes(this, [this](Orden orden) { Hacer(orden); });
+    auto* centro = new QWidget(this);
+    auto* rejilla = new QGridLayout(centro);
+    rejilla->setContentsMargins(12, 8, 12, 4);
+    rejilla->setSpacing(8);
+    auto* columna = new QWidget(centro);
+    columna->setFixedWidth(AnchoBoleto);
+    auto* izquierda = new QVBoxLayout(columna);
+    izquierda->setContentsMargins(0, 0, 0, 0);
+    izquierda->setSpacing(8);
+    izquierda->addWidget(CrearJuego());
+    izquierda->addWidget(CrearBoleto());
+    izquierda->addWidget(CrearDigitos());
+    izquierda->addStretch();
+    lstFiltros = CrearVistaFiltros(
+        centro, [this](int k) { logica.AlternarFila(k), Pintar(); }, [this](int k) { AbrirFila(k); });
+    contadores = CrearPanelContadores(centro);
+    rejilla->addWidget(columna, 0, 0);
+    rejilla->addWidget(lstFiltros, 0, 1);
+    rejilla->addWidget(contadores.panel, 1, 0, 1, 2);
+    rejilla->setColumnStretch(1, 1);
+    rejilla->setRowStretch(0, 1);
+    setCentralWidget(centro);
+    espera = CrearPanelEspera(centro);
     resize(1280, 720);
     Pintar();
 }
 
+QWidget* frmPrincipal::CrearJuego() {
+    picBanner2 = new QFrame(this);
+    picBanner2->setObjectName(Q("picBanner2"));
+    picBanner2->setFrameStyle(QFrame::StyledPanel);
+    franja = new QFrame(picBanner2);
+    franja->setObjectName(Q("franja"));
+    franja->setFixedWidth(8);
+    franja->setAutoFillBackground(true);
+    QStringList juegos;
+    for (const Juego& juego : Juegos) juegos << Q(juego.Nombre);
+    cboTipoJuego = CrearLista(picBanner2, Q("cboTipoJuego"), Q("Juego"), juegos);
+    cboTipoCombinacion = CrearLista(picBanner2, Q("cboTipoCombinacion"), Q("Modo de la base"),
+                                    {Q("Pronóstico Manual"), Q("Pronóstico Aleatorio"), Q("Pronóstico Desde Archivo")});
+    // The import of bets is not part of this version.
+    cboTipoCombinacion->setItemData(PronosticoDesdeArchivo, 0, Qt::UserRole - 1);
+    cboTipoCombinacion->setItemData(PronosticoDesdeArchivo, Q("Todavía no está disponible"), Qt::ToolTipRole);
+    txtFicheroASCII = new QLabel(picBanner2);
+    txtFicheroASCII->setObjectName(Q("txtFicheroASCII"));
+    auto* fila = new QHBoxLayout(picBanner2);
+    fila->setContentsMargins(0, 0, 8, 0);
+    auto* listas = new QVBoxLayout;
+    auto* dos = new QHBoxLayout;
+    dos->addWidget(cboTipoJuego, 2);
+    dos->addWidget(cboTipoCombinacion, 3);
+    listas->setContentsMargins(0, 8, 0, 8);
+    listas->addLayout(dos);
+    listas->addWidget(txtFicheroASCII);
+    fila->addWidget(franja);
+    fila->addLayout(listas, 1);
+    connect(cboTipoJuego, &QComboBox::activated, this, [this](int i) { logica.CambiarJuego(i), Pintar(); });
+    connect(cboTipoCombinacion, &QComboBox::activated, this, [this](int i) {
+        logica.CambiarTipoCombinacion(i);
+        Pintar();
+    });
+    return picBanner2;
+}
+
+QWidget* frmPrincipal::CrearBoleto() {
+    auto* caja = new QWidget(this);
+    auto* columna = new QVBoxLayout(caja);
+    columna->setContentsMargins(0, 0, 0, 0);
+    columna->setSpacing(4);
+    cmdCuadroApuDirecto = new QLabel(caja);
+    cmdCuadroApuDirecto->setObjectName(Q("cmdCuadroApuDirecto"));
+    lblMarcarDesmarcarTODOS = new QToolButton(caja);
+    lblMarcarDesmarcarTODOS->setObjectName(Q("lblMarcarDesmarcarTODOS"));
+    lblMarcarDesmarcarTODOS->setFocusPolicy(Qt::StrongFocus);
+    lblMarcarDesmarcarTODOS->setMinimumWidth(
+        lblMarcarDesmarcarTODOS->fontMetrics().horizontalAdvance(Q("Desmarcar todos")) + 16);
+    picNumeros = CrearRejillaNumeros(caja, "lblNumero",
+                                     {[this](int n) { logica.PulsarNumero(n), Pintar(); },
+                                      [this](int r) { logica.PulsarFila(r), Pintar(); },
+                                      [this](int c) { logica.PulsarColumna(c), Pintar(); }});
+    CrearPortapapeles(picNumeros.papel);
+    auto* cabecera = new QHBoxLayout;
+    cabecera->addWidget(cmdCuadroApuDirecto, 1);
+    cabecera->addWidget(lblMarcarDesmarcarTODOS);
+    columna->addLayout(cabecera);
+    columna->addWidget(picNumeros.papel);
+    connect(lblMarcarDesmarcarTODOS, &QToolButton::clicked, this, [this] { logica.MarcarDesmarcarTODOS(), Pintar(); });
+    return caja;
+}
+
+QWidget* frmPrincipal::CrearDigitos() {
+    picCuadroReintegros = new QWidget(this);
+    picCuadroReintegros->setObjectName(Q("picCuadroReintegros"));
+    auto* caja = new QVBoxLayout(picCuadroReintegros);
+    caja->setContentsMargins(0, 0, 0, 0);
+    caja->setSpacing(4);
+    lblTituloReintegros = new QLabel(picCuadroReintegros);
+    lblTituloReintegros->setObjectName(Q("lblTituloReintegros"));
+    cboTipoReintegro = CrearLista(picCuadroReintegros, Q("cboTipoReintegro"), Q("Reparto de los dígitos"),
+                                  {Q("Al directo"), Q("Secuenciales"), Q("Aleatorios")});
+    chkReintegros = new QCheckBox(picCuadroReintegros);
+    chkReintegros->setObjectName(Q("chkReintegros"));
+    chkReintegros->setToolTip(Q("Las apuestas de un fichero llevan un séptimo campo"));
+    digitos = CrearRejillaDigitos(picCuadroReintegros, "lblReintegro",
+                                  [this](int d) { logica.PulsarReintegro(d), Pintar(); });
+    auto* titulo = new QHBoxLayout;
+    titulo->addWidget(lblTituloReintegros, 1);
+    titulo->addWidget(chkReintegros);
+    titulo->addWidget(cboTipoReintegro);
+    caja->addLayout(titulo);
+    caja->addWidget(digitos.papel);
+    connect(cboTipoReintegro, &QComboBox::activated, this, [this](int i) { logica.CambiarTipoReintegro(i), Pintar(); });
+    connect(chkReintegros, &QCheckBox::clicked, this, [this](bool si) { logica.CambiarReintegros(si), Pintar(); });
+    return picCuadroReintegros;
+}
+
+void frmPrincipal::CrearPortapapeles(QWidget* boleto) {
+    auto* copiar = new QAction(Q("Copiar números"), this);
+    auto* pegar = new QAction(Q("Pegar números"), this);
+    copiar->setObjectName(Q("accionCopiar"));
+    pegar->setObjectName(Q("accionPegar"));
+    copiar->setShortcut(QKeySequence::Copy);
+    pegar->setShortcut(QKeySequence::Paste);
+    addActions({copiar, pegar});
+    boleto->addActions({copiar, pegar});
+    boleto->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(copiar, &QAction::triggered, this, [this] { QApplication::clipboard()->setText(Q(logica.Copiar())); });
+    connect(pegar, &QAction::triggered, this, [this] {
+        logica.Pegar(Utf8(QApplication::clipboard()->text()));
+        Pintar();
+    });
+}
+
 void frmPrincipal::Pintar() {
-    setWindowTitle(Q(logica.sesion.trabajo.Titulo));
+    const EstadoTrabajo& trabajo = logica.sesion.trabajo;
+    const bool bloqueada = logica.Bloqueada();
+    if (bloqueada && focoAnterior == nullptr) focoAnterior = focusWidget();
+    // "[*]" in a title is where the mark of unsaved work goes.
+    setWindowTitle(Q(trabajo.Titulo).replace(Q("[*]"), Q("[*][*]")) + Q("[*]"));
+    setWindowModified(!trabajo.CombinacionGuardada);
+    menuBar()->setEnabled(!bloqueada);
+    PintarBarraOrdenes(barra, [this](Orden orden) { return logica.Habilitada(orden); });
+    PintarJuego();
+    PintarBoleto();
+    PintarVistaFiltros(lstFiltros, logica.sesion, logica.entorno.SeparadorMiles, !bloqueada);
+    PintarPanelContadores(contadores, Q(logica.lblApuestasIniciales()), Q(logica.lblApuestasCondicionadas()),
+                          Q(logica.lblApuestasReducidas()), Q(logica.lblTipoCombinacion()),
+                          !trabajo.Contador.Progreso.empty(), trabajo.EstadoCalculando);
+    PintarPanelEspera(espera, trabajo.picVentanaEspera);
+    if (!bloqueada && focoAnterior != nullptr) {
+        focoAnterior->setFocus();
+        focoAnterior = nullptr;
+    }
+}
+
+void frmPrincipal::PintarJuego() {
+    const EstadoTrabajo& trabajo = logica.sesion.trabajo;
+    cboTipoJuego->setCurrentIndex(trabajo.cboTipoJuego);
+    cboTipoCombinacion->setCurrentIndex(trabajo.cboTipoCombinacion);
+    picBanner2->setEnabled(!logica.Bloqueada());
+    const QString ruta = Q(trabajo.txtFicheroASCII);
+    txtFicheroASCII->setVisible(trabajo.cboTipoCombinacion == PronosticoDesdeArchivo);
+    txtFicheroASCII->setText(QFileInfo(ruta).fileName());
+    txtFicheroASCII->setToolTip(ruta);
+    QPalette color = franja->palette();
+    color.setColor(QPalette::Window, QColor::fromRgb(trabajo.JuegoActual().ColorFondo));
+    franja->setPalette(color);
+}
+
+void frmPrincipal::PintarBoleto() {
+    const EstadoTrabajo& trabajo = logica.sesion.trabajo;
+    const Juego& juego = trabajo.JuegoActual();
+    const bool habilitado = logica.BoletoHabilitado();
+    cmdCuadroApuDirecto->setText(Q(logica.cmdCuadroApuDirecto()));
+    lblMarcarDesmarcarTODOS->setText(logica.HayMarcas() ? Q("Desmarcar todos") : Q("Marcar todos"));
+    lblMarcarDesmarcarTODOS->setEnabled(habilitado);
+    PintarRejillaNumeros(picNumeros, trabajo.lblNumero, trabajo.NumeroMaximo(), habilitado);
+    picCuadroReintegros->setVisible(juego.TieneDigito());
+    PintarRejillaDigitos(digitos, trabajo.lblReintegro, juego, habilitado);
+    lblTituloReintegros->setText(Q(juego.TituloReintegros));
+    chkReintegros->setText(Q(juego.CargarReintegros));
+    chkReintegros->setChecked(trabajo.chkReintegros);
+    chkReintegros->setEnabled(!logica.Bloqueada());
+    cboTipoReintegro->setCurrentIndex(trabajo.cboTipoReintegro);
+    cboTipoReintegro->setEnabled(habilitado);
+}
+
+void frmPrincipal::Hacer(Orden orden) {
+    if (orden == Orden::Salir) {
+        close();
+        return;
+    }
+    logica.Hacer(orden);
+    if (logica.PuedeAbrir(orden)) AbrirVentana(orden);
+    Pintar();
+}
+
+void frmPrincipal::AbrirVentana(Orden) {}
+
+void frmPrincipal::AbrirFila(int k) {
+    logica.PuedeAbrirFila(k);
+    Pintar();
+}
+
+void frmPrincipal::closeEvent(QCloseEvent* evento) {
+    evento->setAccepted(logica.PuedeCerrar());
+}
+
+void frmPrincipal::changeEvent(QEvent* evento) {
+    QMainWindow::changeEvent(evento);
+    if (evento->type() != QEvent::PaletteChange || lstFiltros == nullptr) return;
+    ColorearBarraOrdenes(barra, palette());
+    Pintar();
+}
+
+void frmPrincipal::resizeEvent(QResizeEvent* evento) {
+    QMainWindow::resizeEvent(evento);
+    PintarPanelEspera(espera, logica.sesion.trabajo.picVentanaEspera);
+}
+
+void frmPrincipal::dragEnterEvent(QDragEnterEvent* evento) {
+    if (!logica.Bloqueada() && !BaseArrastrada(evento->mimeData()).isEmpty()) evento->acceptProposedAction();
+}
+
+void frmPrincipal::dropEvent(QDropEvent* evento) {
+    const QString ruta = BaseArrastrada(evento->mimeData());
+    evento->acceptProposedAction();
+    // The program that the file comes from waits for this event: boxes come after it.
+    QTimer::singleShot(0, this, [this, ruta] {
+        logica.Soltar(Utf8(ruta));
+        Pintar();
+    });
 }

@@ -7,5 +7,5 @@ TEST(frmPrincipal, AbreConSuTitulo) {
     Guion guion;
     frmPrincipal ventana(guion.sesion, guion.entorno);
     ventana.show();
-    EXPECT_EQ(Utf8(ventana.windowTitle()), "TOMBOLERA 11.1");
+    EXPECT_EQ(Utf8(ventana.windowTitle()), "TOMBOLERA 11.1[*]");
 }

@@ -1,7 +1,212 @@
 #include "LogicaPrincipal.h"
 
+#include <algorithm>
+
+#include "Boleto.h"
+#include "CalcularSistema.h"
+#include "GuardarCombinacion.h"
+#include "NumerosTexto.h"
+#include "Sesiones.h"
+#include "TablaFiltros.h"
+#include "modGeneral.h"
+
+namespace {
+
+constexpr const char* PreguntaContinuar =
+    "NO HA GUARDADO LA COMBINACION ACTUAL EN XML, ¿ DESEA CONTINUAR DE TODAS FORMAS ?";
+constexpr const char* PreguntaSalir = "NO HA GUARDADO LA COMBINACION ACTUAL EN XML, ¿ DESEA SALIR DE TODAS FORMAS ?";
+
+// A list of refused words that still fits a box.
+std::string Enumerar(const std::vector<std::string>& palabras) {
+    constexpr size_t maximo = 10, ancho = 20;
+    std::string texto;
+    for (size_t i = 0; i < std::min(palabras.size(), maximo); ++i)
+        texto += (i == 0 ? "" : ", ") + (palabras[i].size() > ancho ? "(texto largo)" : palabras[i]);
+    return palabras.size() > maximo ? texto + " ..." : texto;
+}
+
+} // namespace
+
+void LogicaPrincipal::Hacer(Orden orden) {
+    if (!Habilitada(orden)) return;
+    switch (orden) {
+    case Orden::Nuevo:
+        return Nuevo();
+    case Orden::Guardar:
+        GuardarBaseXML(sesion, entorno);
+        return;
+    case Orden::AyudaOnline:
+        return AyudaOnline();
+    case Orden::CalculoPrueba:
+        return CalculoPrueba();
+    case Orden::CalculoDefinitivo:
+        GuardarCombinacion(sesion, entorno);
+        return;
+    default:
+        return;
+    }
+}
+
+bool LogicaPrincipal::PuedeAbrir(Orden orden) {
+    if (!Habilitada(orden)) return false;
+    if ((orden == Orden::Garantias || orden == Orden::Analisis) && sesion.trabajo.Contador.Reducidas == 0)
+        return Fallo(entorno, "ERROR: No hay apuestas generadas");
+    return true;
+}
+
 bool LogicaPrincipal::PuedeCerrar() {
-    if (sesion.trabajo.EstadoCalculando) return false;
-    return sesion.trabajo.CombinacionGuardada ||
-           entorno.Preguntar("NO HA GUARDADO LA COMBINACION ACTUAL EN XML, ¿ DESEA SALIR DE TODAS FORMAS ?");
+    if (Bloqueada()) return false;
+    return sesion.trabajo.CombinacionGuardada || entorno.Preguntar(PreguntaSalir);
+}
+
+bool LogicaPrincipal::PuedeDescartar() {
+    return sesion.trabajo.CombinacionGuardada || entorno.Preguntar(PreguntaContinuar);
+}
+
+void LogicaPrincipal::Nuevo() {
+    if (!PuedeDescartar()) return;
+    sesion.trabajo.cboTipoCombinacion = PronosticoManual;
+    ReiniciarSesion(sesion, entorno);
+}
+
+void LogicaPrincipal::CalculoPrueba() {
+    sesion.trabajo.chkGuardarAutomaticamente = false;
+    CalcularSistema(sesion, entorno);
+}
+
+void LogicaPrincipal::AyudaOnline() {
+    const std::string& direccion = entorno.Sitio.empty() ? entorno.Manual : entorno.Sitio;
+    if (direccion.empty() || !entorno.AbrirDireccion(direccion))
+        Fallo(entorno, "ERROR: FICHERO DE AYUDA NO ENCONTRADO O ERRONEO");
+}
+
+void LogicaPrincipal::Soltar(const std::string&) {}
+
+void LogicaPrincipal::CambiarJuego(int juego) {
+    if (Bloqueada() || juego < 0 || juego >= static_cast<int>(Juegos.size())) return;
+    if (juego != sesion.trabajo.cboTipoJuego) ::CambiarJuego(sesion, juego);
+}
+
+void LogicaPrincipal::CambiarTipoReintegro(int indice) {
+    if (!Bloqueada()) sesion.trabajo.cboTipoReintegro = indice;
+}
+
+void LogicaPrincipal::CambiarReintegros(bool marcado) {
+    if (!Bloqueada()) sesion.trabajo.chkReintegros = marcado;
+}
+
+bool LogicaPrincipal::CambiarTipoCombinacion(int indice) {
+    EstadoTrabajo& trabajo = sesion.trabajo;
+    const int anterior = trabajo.cboTipoCombinacion;
+    if (Bloqueada() || (indice == PronosticoManual && anterior == PronosticoManual)) return false;
+    if (indice == PronosticoAleatorio) {
+        trabajo.cboTipoCombinacion = PronosticoAleatorio;
+        trabajo.txtFicheroASCII.clear();
+        trabajo.cboTipoReintegro = AlDirecto;
+        return true;
+    }
+    if (indice == PronosticoManual) {
+        const bool descartar = PuedeDescartar();
+        // Refused, an imported base stays imported; a random one is a manual one from here on.
+        if (descartar || anterior != PronosticoDesdeArchivo) trabajo.cboTipoCombinacion = PronosticoManual;
+        if (descartar) ReiniciarSesion(sesion, entorno);
+    }
+    return false;
+}
+
+void LogicaPrincipal::PulsarNumero(int numero) {
+    if (BoletoHabilitado() && numero >= 1 && numero <= sesion.trabajo.NumeroMaximo())
+        ::PulsarNumero(sesion.trabajo, numero);
+}
+
+void LogicaPrincipal::PulsarReintegro(int digito) {
+    const Juego& juego = sesion.trabajo.JuegoActual();
+    if (BoletoHabilitado() && digito >= juego.DigitoMinimo && digito <= juego.DigitoMaximo)
+        ::PulsarReintegro(sesion.trabajo, digito);
+}
+
+void LogicaPrincipal::PulsarFila(int r) {
+    if (BoletoHabilitado()) ::PulsarFila(sesion.trabajo, r);
+}
+
+void LogicaPrincipal::PulsarColumna(int c) {
+    if (BoletoHabilitado()) ::PulsarColumna(sesion.trabajo, c);
+}
+
+void LogicaPrincipal::MarcarDesmarcarTODOS() {
+    if (BoletoHabilitado()) ::MarcarDesmarcarTODOS(sesion.trabajo);
+}
+
+void LogicaPrincipal::Pegar(const std::string& texto) {
+    if (!BoletoHabilitado()) return;
+    EstadoTrabajo& trabajo = sesion.trabajo;
+    const NumerosLeidos leidos = LeerNumeros(texto, trabajo.NumeroMaximo());
+    for (const int n : leidos.Numeros)
+        if (!trabajo.lblNumero[static_cast<size_t>(n)]) ::PulsarNumero(trabajo, n);
+    const std::string intervalo = "del 1 al " + std::to_string(trabajo.NumeroMaximo());
+    if (!leidos.Erroneos.empty())
+        Fallo(entorno,
+              "AVISO: No se ha podido marcar: " + Enumerar(leidos.Erroneos) + ". Se esperan números " + intervalo);
+    else if (leidos.Numeros.empty())
+        Fallo(entorno, "AVISO: No hay números que pegar. Se esperan números " + intervalo);
+}
+
+std::string LogicaPrincipal::Copiar() const {
+    std::vector<int> numeros;
+    for (int n = 1; n <= sesion.trabajo.NumeroMaximo(); ++n)
+        if (sesion.trabajo.lblNumero[static_cast<size_t>(n)]) numeros.push_back(n);
+    return TextoNumeros(numeros);
+}
+
+void LogicaPrincipal::AlternarFila(int k) {
+    if (!Bloqueada() && k >= 0 && k < NFilas) ::AlternarFila(sesion, k);
+}
+
+bool LogicaPrincipal::PuedeAbrirFila(int k) {
+    if (Bloqueada() || k < 0 || k >= NFilas) return false;
+    sesion.trabajo.CombinacionGuardada = false;
+    return DisponibleEnJuego(k, sesion.trabajo) ||
+           Fallo(entorno, "AVISO: FILTRO NO PERMITIDO PARA EL JUEGO EURODREAMS");
+}
+
+void LogicaPrincipal::FilaCerrada(int k) {
+    ActualizarFila(sesion, k);
+    if (k == FilaReduccion)
+        sesion.condiciones.lstFiltros[FilaReduccion].Activo = sesion.trabajo.Reduccion.TipoReduccion != 0;
+    else
+        ReiniciarEliminados(sesion);
+}
+
+bool LogicaPrincipal::Habilitada(Orden orden) const {
+    return !Bloqueada() && OrdenDisponible(orden);
+}
+
+bool LogicaPrincipal::BoletoHabilitado() const {
+    return !Bloqueada() && sesion.trabajo.cboTipoCombinacion != PronosticoDesdeArchivo;
+}
+
+bool LogicaPrincipal::HayMarcas() const {
+    const auto& marcas = sesion.trabajo.lblNumero;
+    return std::find(marcas.begin(), marcas.end(), true) != marcas.end();
+}
+
+std::string LogicaPrincipal::cmdCuadroApuDirecto() const {
+    return sesion.trabajo.cboTipoCombinacion == PronosticoDesdeArchivo ? "Apuestas Importadas" : "Apuestas en Directo";
+}
+
+std::string LogicaPrincipal::lblTipoCombinacion() const {
+    return TextoTipoCombinacion(sesion.trabajo);
+}
+
+std::string LogicaPrincipal::lblApuestasIniciales() const {
+    return FormatoMiles(sesion.trabajo.Contador.Iniciales, entorno.SeparadorMiles);
+}
+
+std::string LogicaPrincipal::lblApuestasCondicionadas() const {
+    const Contadores& contador = sesion.trabajo.Contador;
+    return contador.Progreso.empty() ? FormatoMiles(contador.Condicionadas, entorno.SeparadorMiles) : contador.Progreso;
+}
+
+std::string LogicaPrincipal::lblApuestasReducidas() const {
+    return FormatoMiles(sesion.trabajo.Contador.Reducidas, entorno.SeparadorMiles);
 }

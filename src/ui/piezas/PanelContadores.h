@@ -1,0 +1,32 @@
+// The three figures of the program in a row, and the panel that waits for a file to be written.
+#pragma once
+
+#include <QFrame>
+#include <QLabel>
+#include <QProgressBar>
+
+#include "EstadoTrabajo.h"
+
+struct PanelContadores {
+    QWidget* panel = nullptr;
+    QLabel *lblApuestasIniciales = nullptr, *lblApuestasCondicionadas = nullptr, *lblApuestasReducidas = nullptr;
+    QLabel* lblTipoCombinacion = nullptr;
+    QProgressBar* actividad = nullptr; ///< moves while a calculation runs
+};
+
+PanelContadores CrearPanelContadores(QWidget* padre);
+
+/// Shows the texts of the counters. `progreso`: the conditioned one tells what runs, in smaller letters.
+void PintarPanelContadores(const PanelContadores& panel, const QString& iniciales, const QString& condicionadas,
+                           const QString& reducidas, const QString& base, bool progreso, bool calculando);
+
+struct PanelEspera {
+    QFrame* picVentanaEspera = nullptr;
+    QProgressBar* lblProgressBar = nullptr;
+};
+
+/// A panel over the middle of `padre`, hidden at first.
+PanelEspera CrearPanelEspera(QWidget* padre);
+
+/// Shows or hides the panel and puts it in the middle of its parent.
+void PintarPanelEspera(const PanelEspera& panel, const Espera& espera);

@@ -1,0 +1,14 @@
+// The list of the twenty conditions: state, name, number of active groups, bets eliminated.
+#pragma once
+
+#include <QTreeWidget>
+
+#include <functional>
+
+#include "Sesion.h"
+
+/// Space and the right button call `alternar` with the row, Enter and a double click `abrir`.
+QTreeWidget* CrearVistaFiltros(QWidget* padre, std::function<void(int)> alternar, std::function<void(int)> abrir);
+
+/// Shows the rows. Those that the game does not have stand grey, with a tip that says why.
+void PintarVistaFiltros(QTreeWidget* lista, const Sesion& sesion, char separadorMiles, bool habilitada);

@@ -239,8 +239,7 @@ void frmPrincipal::Hacer(Orden orden) {
 
 void frmPrincipal::AbrirVentana(Orden) {}
 
-void frmPrincipal::AbrirFila(int k) {
-    logica.PuedeAbrirFila(k);
+void frmPrincipal::AbrirFila(int) {
     Pintar();
 }
 

@@ -8,6 +8,7 @@
 #include <QTreeWidget>
 
 #include "Guion.h"
+#include "Sesiones.h"
 #include "Ventanas.h"
 
 namespace {
@@ -62,7 +63,7 @@ TEST_P(Capturas, NingunTextoNiFilaSeCorta) {
         logica.PulsarReintegro(4);
         logica.AlternarFila(8);
         guion.sesion.condiciones.EliminadasPorFiltro[8] = 112;
-        logica.FilaCerrada(8);
+        ReiniciarEliminados(guion.sesion);
         ventana.show();
         ventana.Pintar();
         QApplication::processEvents();

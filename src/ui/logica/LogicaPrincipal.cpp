@@ -7,7 +7,6 @@
 #include "GuardarCombinacion.h"
 #include "NumerosTexto.h"
 #include "Sesiones.h"
-#include "TablaFiltros.h"
 #include "modGeneral.h"
 
 namespace {
@@ -160,21 +159,6 @@ std::string LogicaPrincipal::Copiar() const {
 
 void LogicaPrincipal::AlternarFila(int k) {
     if (!Bloqueada() && k >= 0 && k < NFilas) ::AlternarFila(sesion, k);
-}
-
-bool LogicaPrincipal::PuedeAbrirFila(int k) {
-    if (Bloqueada() || k < 0 || k >= NFilas) return false;
-    sesion.trabajo.CombinacionGuardada = false;
-    return DisponibleEnJuego(k, sesion.trabajo) ||
-           Fallo(entorno, "AVISO: FILTRO NO PERMITIDO PARA EL JUEGO EURODREAMS");
-}
-
-void LogicaPrincipal::FilaCerrada(int k) {
-    ActualizarFila(sesion, k);
-    if (k == FilaReduccion)
-        sesion.condiciones.lstFiltros[FilaReduccion].Activo = sesion.trabajo.Reduccion.TipoReduccion != 0;
-    else
-        ReiniciarEliminados(sesion);
 }
 
 bool LogicaPrincipal::Habilitada(Orden orden) const {

@@ -40,12 +40,8 @@ struct LogicaPrincipal {
     /// The marked numbers of the game: "3, 7, 12".
     std::string Copiar() const;
 
-    /// A row of the list: the right button switches it, a double click opens its dialog.
+    /// The right button on a row of the list: the saved flag stays.
     void AlternarFila(int k);
-    /// Marks the work as not saved; false, with its box, when the game does not have the condition.
-    bool PuedeAbrirFila(int k);
-    /// After the dialog of a row: its count anew and the column of eliminated bets.
-    void FilaCerrada(int k);
 
     // What is enabled, and what is shown beside the fields of the state.
     bool Habilitada(Orden orden) const;

@@ -15,6 +15,8 @@ struct PeticionFichero {
     std::string Nombre;                                       ///< proposed name, may be empty
 };
 
+struct LogicaVentanaProceso;
+
 struct FechaHora {
     int Anio = 2000, Mes = 1, Dia = 1, Hora = 0, Minuto = 0, Segundo = 0;
 };
@@ -37,6 +39,9 @@ struct Entorno {
     };
     /// One turn of the event loop, called by long loops at their cadence. Cheap when called often.
     std::function<void()> CederTurno = [] {};
+    /// Shows the process window of a reduction until it closes. Showing nothing runs nothing: the
+    /// calculation ends without a reduced system.
+    std::function<void(LogicaVentanaProceso&)> MostrarVentanaProceso = [](LogicaVentanaProceso&) {};
     /// Shows a report file in a text editor.
     std::function<void(const std::string& ruta)> VerInforme = [](const std::string&) {};
     /// Opens an address in the browser; false when that is not possible.

@@ -9,6 +9,7 @@
 #include "Condicionar.h"
 #include "GenerarApuestas.h"
 #include "GuardarCombinacion.h"
+#include "LogicaVentanaProceso.h"
 #include "Sesiones.h"
 #include "Supervivientes.h"
 #include "TablaFiltros.h"
@@ -99,7 +100,9 @@ bool Calcular(Sesion& sesion, Entorno& entorno) {
             return Fallo(entorno,
                          "ERROR: Ha elegido reducir con la opción 'Número Exacto de Apuestas' y dicho número "
                          "supera el sistema final condicionado, cambie el número de apuestas pedidas al reducir");
-        return Fallo(entorno, "ERROR: La reducción no está disponible en esta versión");
+        LogicaVentanaProceso ventana(sesion, entorno);
+        entorno.MostrarVentanaProceso(ventana);
+        trabajo.ApuestaEliminada.Vaciar();
     } else {
         TraducirCondicionadas(trabajo);
         trabajo.Contador.Reducidas = trabajo.Contador.Condicionadas;

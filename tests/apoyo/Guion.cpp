@@ -48,6 +48,12 @@ Guion::Guion() {
             hacer();
         }
     };
+    entorno.MostrarVentanaProceso = [this](LogicaVentanaProceso& ventana) {
+        Ventana = &ventana;
+        ventana.TopeCiclos = CiclosDeReduccion;
+        ventana.Activar();
+        Ventana = nullptr;
+    };
     entorno.VerInforme = [this](const std::string& ruta) { Informes.push_back(ruta); };
     entorno.AbrirDireccion = [this](const std::string& direccion) {
         Direcciones.push_back(direccion);

@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "Entorno.h"
+#include "LogicaVentanaProceso.h"
 #include "Sesion.h"
 
 using Textos = std::vector<std::string>;
@@ -57,6 +58,9 @@ struct Guion {
     Textos Direcciones; ///< addresses opened
     int Pitidos = 0;
     int Turnos = 0; ///< calls of CederTurno
+
+    double CiclosDeReduccion = 1;            ///< the process window runs this many and closes; 0 for no limit
+    LogicaVentanaProceso* Ventana = nullptr; ///< while it is open
 
     /// Runs `accion` on the n-th call of CederTurno from the start, 1 the first.
     void EnTurno(int n, std::function<void()> accion) { acciones_[n] = std::move(accion); }

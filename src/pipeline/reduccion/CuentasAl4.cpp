@@ -1,0 +1,85 @@
+#include "CuentasAl4.h"
+
+#include <algorithm>
+#include <bit>
+#include <cassert>
+
+CuentasAl4::CuentasAl4(const Conjunto& conjunto)
+    : conjunto_(conjunto), r4_(conjunto.n(), 4), r5_(conjunto.n(), 5), lugares_(conjunto.Apuestas()),
+      cuenta4_(r4_.Cuantos()), cuenta5_(r5_.Cuantos()), sinCubrir_(conjunto.Apuestas(), 1) {
+    assert(conjunto.n() <= 22);
+}
+
+namespace {
+
+// Places of the 15 4-subsets, by the two elements left out.
+template <class Salida>
+void LugaresSinDos(const Rangos& r4, const Seis& p, Salida salida) {
+    for (int i = 0; i < 6; ++i)
+        for (int j = i + 1; j < 6; ++j) {
+            int32_t lugar = 0;
+            for (int k = 0; k < 6; ++k)
+                if (k != i && k != j) lugar += r4.Parte(k - (k > i) - (k > j), p[k]);
+            *salida++ = static_cast<uint16_t>(lugar);
+        }
+}
+
+uint32_t Mascara(const Seis& p) {
+    uint32_t m = 0;
+    for (const uint8_t x : p) m |= uint32_t{1} << x;
+    return m;
+}
+
+} // namespace
+
+bool CuentasAl4::Contar(const std::function<bool(int32_t)>& turno) {
+    todas_.reserve(lugares_.size());
+    for (int32_t i = 0; i < conjunto_.Apuestas(); ++i) {
+        if (i % 500 == 499 && !conjunto_.Completo() && !turno(i + 1)) return false;
+        const Seis p = conjunto_.Apuesta(i);
+        Lugares& l = lugares_[i];
+        LugaresSinDos(r4_, p, l.begin());
+        const auto cinco = LugaresSinUno(r5_, p);
+        std::transform(cinco.begin(), cinco.end(), l.begin() + 15, [](int32_t s) { return static_cast<uint16_t>(s); });
+        for (int k = 0; k < 15; ++k) ++cuenta4_[l[k]];
+        for (int k = 15; k < 21; ++k) ++cuenta5_[l[k]];
+        todas_.push_back({Mascara(p), i});
+    }
+    inicial4_ = cuenta4_;
+    inicial5_ = cuenta5_;
+    quedan_ = todas_;
+    return true;
+}
+
+void CuentasAl4::Reponer() {
+    cuenta4_ = inicial4_;
+    cuenta5_ = inicial5_;
+    quedan_ = todas_;
+    std::fill(sinCubrir_.begin(), sinCubrir_.end(), uint8_t{1});
+}
+
+uint16_t CuentasAl4::Ganancia(int32_t i, const Seis&) const {
+    const Lugares& l = lugares_[i];
+    const uint8_t* c4 = cuenta4_.data();
+    const uint8_t* c5 = cuenta5_.data();
+    int suma4 = 0, suma5 = 0;
+    for (int k = 0; k < 15; ++k) suma4 += c4[l[k]];
+    for (int k = 15; k < 21; ++k) suma5 += c5[l[k]];
+    return static_cast<uint16_t>(suma4 - 4 * suma5 + 10 * sinCubrir_[i]);
+}
+
+void CuentasAl4::Cubrir(int32_t, const Seis& p) {
+    const uint32_t mascara = Mascara(p);
+    size_t n = 0;
+    for (const Descubierta& d : quedan_) {
+        if (std::popcount(d.mascara & mascara) < 4) {
+            quedan_[n++] = d;
+            continue;
+        }
+        sinCubrir_[d.apuesta] = 0;
+        const Lugares& l = lugares_[d.apuesta];
+        for (int k = 0; k < 15; ++k) --cuenta4_[l[k]];
+        for (int k = 15; k < 21; ++k) --cuenta5_[l[k]];
+    }
+    quedan_.resize(n);
+}

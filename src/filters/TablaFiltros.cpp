@@ -11,9 +11,9 @@ const std::array<DescripcionFiltro, NFiltros> TablaFiltros{{
     {"DISTANCIAS", "Distancias            ", "Fil. Distancias", "DISTANCIAS: ", "Filtro DISTANCIAS:", "", true,
      FiltrarDISTANCIAS},
     {"GRUPOS", "Grupos de Números     ", "Fil. Gru. de números",
-     "GRUPOS DE NUMEROS: ", "Filtro GRUPOS DE NUMEROS:", "GRUPOS DE NUMEROS", true, nullptr},
+     "GRUPOS DE NUMEROS: ", "Filtro GRUPOS DE NUMEROS:", "GRUPOS DE NUMEROS", true, FiltrarGRUPOS},
     {"GRUPOSRELACIONADOS", "Grupos Relacionados   ", "Fil. Gru. Relacionados",
-     "GRUPOS RELACIONADOS: ", "Filtro GRUPOS RELACIONADOS:", "GRUPOS RELACIONADOS", true, nullptr},
+     "GRUPOS RELACIONADOS: ", "Filtro GRUPOS RELACIONADOS:", "GRUPOS RELACIONADOS", true, FiltrarGRUPOSRELACIONADOS},
     {"HOMOLOGOS", "Homólogos             ", "Fil. Homólogos", "HOMOLOGOS: ", "Filtro HOMOLOGOS:", "", false,
      FiltrarHOMOLOGOS},
     {"PARESIMPARES", "Pares e Impares       ", "Fil. Pares e Impares",
@@ -24,7 +24,7 @@ const std::array<DescripcionFiltro, NFiltros> TablaFiltros{{
     {"TERMINACIONES", "Terminaciones         ", "Fil. Terminaciones", "TERMINACIONES: ", "Filtro TERMINACIONES:", "",
      true, FiltrarTERMINACIONES},
     {"POSICIONES", "Posiciones            ", "Fil. Posiciones", "POSICIONES: ", "Filtro POSICIONES:", "", true,
-     nullptr},
+     FiltrarPOSICIONES},
     {"EXTERIORESINTERIORES", "Exteriores/Interiores ", "Fil. Ext./Int.",
      "EXTERIORES/INTERIORES: ", "Filtro EXTERIORES/INTERIORES:", "", false, FiltrarEXTERIORESINTERIORES},
     {"SUPERIORESINFERIORES", "Superiores/Inferiores ", "Fil. Sup./Inf.",
@@ -36,12 +36,12 @@ const std::array<DescripcionFiltro, NFiltros> TablaFiltros{{
     {"SUMASPORTRIOS", "Sumas por Trios       ", "Fil. Sumas por Trios",
      "SUMAS POR TRIOS: ", "Filtro SUMAS POR TRIOS:", "", true, FiltrarSUMASPORTRIOS},
     {"VALORACIONES", "Valoraciones          ", "Fil. Valoraciones",
-     "VALORACIONES: ", "Filtro VALORACIONES:", "VALORACIONES", true, nullptr},
+     "VALORACIONES: ", "Filtro VALORACIONES:", "VALORACIONES", true, FiltrarVALORACIONES},
     {"COEFICIENTERENTABILIDAD", "Coefici. Rentabilidad ", "Fil. Coefi.Rentabilidad",
-     "COEFICIENTE RENTABILIDAD: ", "Filtro COEFICIENTE RENTABILIDAD:", "", false, nullptr},
+     "COEFICIENTE RENTABILIDAD: ", "Filtro COEFICIENTE RENTABILIDAD:", "", false, FiltrarCOEFICIENTERENTABILIDAD},
     // The only progress label without "Fil. " in front.
     {"GRUPOSENTRELIMITES", "Grupos entre Límites  ", "Grupos entre Límites",
-     "GRUPOS ENTRE LIMITES: ", "Filtro GRUPOS ENTRE LIMITES:", "GRUPOS ENTRE LIMITES", true, nullptr},
+     "GRUPOS ENTRE LIMITES: ", "Filtro GRUPOS ENTRE LIMITES:", "GRUPOS ENTRE LIMITES", true, FiltrarGRUPOSENTRELIMITES},
 }};
 
 std::string_view NombreFila(int k) {

@@ -2,29 +2,15 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "Nucleos.h"
+#include "Escalares.h"
 
 namespace {
 
-using Seis = std::array<int, 6>;
-
-// What the table holds for the six positions of bet `i`. The mask keeps a byte that is no position
-// from reading elsewhere.
-Seis Valores(const Tramo& tramo, int64_t i, const PorPosicion& tabla) {
-    Seis v;
-    for (size_t r = 0; r < 6; ++r) v[r] = tabla[tramo.fila[r][i] & 63u];
-    return v;
-}
+using Seis = SeisValores;
 
 template <class Prueba>
 int32_t Recorrer(const Tramo& tramo, const PorPosicion& tabla, Prueba pasa) {
-    int32_t marcadas = 0;
-    for (int64_t i = 0; i < tramo.n; ++i) {
-        if (tramo.eliminada[i] != 0 || pasa(Valores(tramo, i, tabla))) continue;
-        tramo.eliminada[i] = 1;
-        ++marcadas;
-    }
-    return marcadas;
+    return RecorrerUnaAUna(tramo, [&](int64_t i) { return pasa(Valores(tramo, i, tabla)); });
 }
 
 int Suma(const Seis& v, size_t desde, size_t hasta) {

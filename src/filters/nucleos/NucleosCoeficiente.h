@@ -1,0 +1,25 @@
+// The kernel of the coefficient of profitability. It keeps the contract of Nucleos.h.
+#pragma once
+
+#include <vector>
+
+#include "NucleosValores.h"
+
+/// The class of a bet's coefficient must be one that passes. Most bets are decided by a sum of scaled
+/// logarithms; those too near the edge of a class for that go through the exact steps.
+struct TablasCoeficiente {
+    enum Veredicto : uint8_t { Falla, Pasa, Duda };
+
+    std::array<double, 64> Apostado{}, Real{}; ///< percentages by position
+    std::array<uint8_t, 100> ClasePasa{};      ///< 1 or 0
+    /// All percentages above 0 lie in [1e-30, 1e30]: no step of any product leaves the normal doubles.
+    bool Moderados = true;
+
+    PalabrasPorPosicion Logaritmo; ///< of real / played, scaled, modulo 2^16
+    std::vector<uint8_t> PorSuma;  ///< `Veredicto` of each of the 2^16 sums of six logarithms
+};
+int32_t NucleoCoeficiente(const Tramo& tramo, const TablasCoeficiente& tablas);
+int32_t NucleoCoeficienteEscalar(const Tramo& tramo, const TablasCoeficiente& tablas);
+
+/// The exact steps for bet `i`.
+bool PasaExacta(const Tramo& tramo, int64_t i, const TablasCoeficiente& tablas);

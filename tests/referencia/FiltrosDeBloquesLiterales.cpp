@@ -86,12 +86,12 @@ int32_t LiteralGRUPOS(Sesion& sesion) {
 
 int32_t LiteralGRUPOSENTRELIMITES(Sesion& sesion) {
     const RegistroGRUPOSENTRELIMITES& registro = sesion.condiciones.GRUPOSENTRELIMITES;
+    std::vector<std::vector<size_t>> numeros;
+    for (const GrupoLimites& grupo : registro.grupo) numeros.push_back(Lista(grupo.numeros));
     return Visitar(sesion, [&](const Numeros& apuesta) {
         int32_t acertados = 0;
-        for (const GrupoLimites& grupo : registro.grupo) {
-            const std::vector<size_t> numeros = Lista(grupo.numeros);
-            if (!numeros.empty() && grupo.aciertos[Aciertos(numeros, apuesta)] == 1) ++acertados;
-        }
+        for (size_t g = 0; g < numeros.size(); ++g)
+            if (!numeros[g].empty() && registro.grupo[g].aciertos[Aciertos(numeros[g], apuesta)] == 1) ++acertados;
         return acertados < registro.aciertosMinimoGRUPOSENTRELIMITES ||
                acertados > registro.aciertosMaximoGRUPOSENTRELIMITES;
     });

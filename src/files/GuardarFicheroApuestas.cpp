@@ -3,6 +3,7 @@
 #include <new>
 
 #include "Ficheros.h"
+#include "NucleoRegistros.h"
 #include "RegistroApuestas.h"
 #include "modEncriptarFichero.h"
 #include "modGeneral.h"
@@ -55,8 +56,7 @@ std::array<const uint8_t*, 7> Filas(const Tabla& tabla) {
 
 bool TodosDeDosCifras(const std::array<const uint8_t*, 7>& filas, int64_t desde, int64_t hasta) {
     uint8_t mayor = 0;
-    for (const uint8_t* fila : filas)
-        for (int64_t i = desde; i < hasta; ++i) mayor = std::max(mayor, fila[i]);
+    for (const uint8_t* fila : filas) mayor = std::max(mayor, NucleoMayor(fila + desde, hasta - desde));
     return mayor < 100;
 }
 

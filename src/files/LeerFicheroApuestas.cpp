@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Ficheros.h"
+#include "NucleoRegistros.h"
 #include "RegistroApuestas.h"
 #include "modEncriptarFichero.h"
 #include "modGeneral.h"
@@ -79,23 +80,31 @@ class Registros {
 
 using ApuestaLeida = std::array<uint8_t, 7>;
 
-// Takes standard records apart, three words at a time; what differs in anything is left to LeerTexto.
+// Takes standard records apart; what differs in anything is left to LeerTexto.
 class LectorRapido {
   public:
-    explicit LectorRapido(const Juego& juego)
-        : ceros_(ApuestaDeCeros()), digitoMinimo_(juego.Nombre == "EURODREAMS" ? 1 : 0),
-          digitoMaximo_(juego.Nombre == "EURODREAMS" ? 5 : 9) {
-        const std::string forma = "00,00,00,00,00,00+00";
-        std::string cifras, sobra;
-        for (const char c : forma) {
+    explicit LectorRapido(const Juego& juego) : ceros_(ApuestaDeCeros()) {
+        const std::string registro = std::string("\x14\0", 2) + EncriptarRC4(TextoDeCeros, ClaveApuestas);
+        std::string topes("\0\0", 2), cifras, sobra;
+        for (const char c : TextoDeCeros) {
+            topes += c == '0' ? '\x09' : '\0';
             cifras += c == '0' ? '\x06' : '\0';
             sobra += c == '0' ? '\xF0' : '\xFF';
         }
         cifras_ = CargarPalabras(cifras.data());
         sobra_ = CargarPalabras(sobra.data());
+        std::memcpy(forma_.Cero1.data(), registro.data(), 16);
+        std::memcpy(forma_.Cero2.data(), registro.data() + 6, 16);
+        std::memcpy(forma_.Tope1.data(), topes.data(), 16);
+        std::memcpy(forma_.Tope2.data(), topes.data() + 6, 16);
+        // BONOLOTO has no digit of its own and takes the range of PRIMITIVA.
+        forma_.DigitoMinimo = static_cast<uint8_t>(juego.TieneDigito() ? juego.DigitoMinimo : 0);
+        forma_.DigitoMaximo = static_cast<uint8_t>(juego.TieneDigito() ? juego.DigitoMaximo : 9);
     }
 
-    // `registro` has its 22 bytes. The bet must be ascending and everything in range.
+    const FormaRegistro& Forma() const { return forma_; }
+
+    // `registro` has its 22 bytes.
     bool Leer(const char* registro, ApuestaLeida& apuesta) const {
         uint16_t largo;
         std::memcpy(&largo, registro, 2);
@@ -108,20 +117,24 @@ class LectorRapido {
         }
         apuesta = {Byte(p[0], 0), Byte(p[0], 3), Byte(p[0], 6), Byte(p[1], 1),
                    Byte(p[2], 0), Byte(p[2], 3), Byte(p[2], 6)};
-        const auto& a = apuesta;
-        const bool bien = (a[0] >= 1) & (a[0] < a[1]) & (a[1] < a[2]) & (a[2] < a[3]) & (a[3] < a[4]) & (a[4] < a[5]) &
-                          (a[5] <= NumeroMaximoBoleto) & (a[6] >= digitoMinimo_) & (a[6] <= digitoMaximo_);
-        return bien & (largo == LargoApuesta) & (malo == 0);
+        return largo == LargoApuesta && malo == 0 && SonSeisDistintos(apuesta) && apuesta[6] >= forma_.DigitoMinimo &&
+               apuesta[6] <= forma_.DigitoMaximo;
     }
-
-    uint8_t DigitoMinimo() const { return digitoMinimo_; }
-    uint8_t DigitoMaximo() const { return digitoMaximo_; }
 
   private:
     static uint8_t Byte(uint64_t palabra, int lugar) { return static_cast<uint8_t>(palabra >> 8 * lugar); }
 
+    static bool SonSeisDistintos(const ApuestaLeida& apuesta) {
+        uint64_t vistos = 0;
+        for (size_t e = 0; e < 6; ++e) {
+            if (apuesta[e] < 1 || apuesta[e] > NumeroMaximoBoleto) return false;
+            vistos |= uint64_t{1} << apuesta[e];
+        }
+        return std::popcount(vistos) == 6;
+    }
+
     PalabrasApuesta ceros_, cifras_{}, sobra_{};
-    uint8_t digitoMinimo_, digitoMaximo_;
+    FormaRegistro forma_{};
 };
 
 std::vector<std::string_view> Partir(std::string_view texto) {
@@ -133,7 +146,7 @@ std::vector<std::string_view> Partir(std::string_view texto) {
 }
 
 // The bet of a deciphered record in any form that the format allows.
-bool LeerTexto(std::string texto, const LectorRapido& rangos, ApuestaLeida& apuesta, FalloLectura& fallo) {
+bool LeerTexto(std::string texto, const FormaRegistro& forma, ApuestaLeida& apuesta, FalloLectura& fallo) {
     const bool conDigito = texto.find('+') != std::string::npos;
     std::replace(texto.begin(), texto.end(), '+', ',');
     const auto partes = Partir(texto);
@@ -150,9 +163,9 @@ bool LeerTexto(std::string texto, const LectorRapido& rangos, ApuestaLeida& apue
     apuesta[6] = 1;
     if (!conDigito) return true;
     if (partes.size() < 7 || !LeerEntero(partes[6], n)) return fallo.Descripcion = "el dígito no es un número", false;
-    if (n < rangos.DigitoMinimo() || n > rangos.DigitoMaximo()) {
+    if (n < forma.DigitoMinimo || n > forma.DigitoMaximo) {
         fallo.Descripcion = "dígito fuera de su intervalo";
-        fallo.Detalle = rangos.DigitoMinimo() == 0 ? "REINTEGROS INCORRECTOS" : "SUEÑOS INCORRECTOS";
+        fallo.Detalle = forma.DigitoMinimo == 0 ? "REINTEGROS INCORRECTOS" : "SUEÑOS INCORRECTOS";
         return false;
     }
     apuesta[6] = static_cast<uint8_t>(n);
@@ -203,11 +216,13 @@ class Lectura {
         return registros_.Siguiente(fallo.Descripcion);
     }
 
+    static constexpr int64_t Paso = BytesPorApuesta, ApuestasSueltas = 64;
+
     // Reads bets until `leidas_` is `hasta`.
     bool LeerHasta(int64_t hasta) {
         while (leidas_ < hasta) {
             LeerSeguidas(hasta);
-            if (leidas_ < hasta && !LeerUna()) return false;
+            if (haParado_ && !LeerUna()) return false;
         }
         return true;
     }
@@ -215,22 +230,25 @@ class Lectura {
     // Standard records, as many as are loaded; stops before the first of another form.
     void LeerSeguidas(int64_t hasta) {
         const std::string_view bytes = registros_.Cargados(BytesPorApuesta, fallo.Descripcion);
-        const int64_t caben = static_cast<int64_t>(bytes.size() / BytesPorApuesta);
-        const int64_t n = std::min(caben, hasta - leidas_);
-        const char* registro = bytes.data();
+        const int64_t n = std::min(static_cast<int64_t>(bytes.size() / BytesPorApuesta), hasta - leidas_);
+        std::array<uint8_t*, 7> filas = filas_;
+        for (uint8_t*& fila : filas) fila += leidas_;
+        const int64_t enGrupos = NucleoLeerApuestas(bytes.data(), n, rapido_.Forma(), filas);
+        // One by one through what the groups refused, and then to the groups again.
+        const int64_t hastaAqui = std::min(n, enGrupos + ApuestasSueltas);
+        int64_t i = enGrupos;
         ApuestaLeida apuesta;
-        int64_t i = 0;
-        for (; i < n && rapido_.Leer(registro, apuesta); ++i, registro += BytesPorApuesta)
-            Guardar(leidas_ + i, apuesta);
-        registros_.Tomar(static_cast<size_t>(i) * BytesPorApuesta);
+        for (; i < hastaAqui && rapido_.Leer(bytes.data() + i * Paso, apuesta); ++i) Guardar(leidas_ + i, apuesta);
+        registros_.Tomar(static_cast<size_t>(i * Paso));
         leidas_ += i;
+        haParado_ = i < hastaAqui || n == 0;
     }
 
     bool LeerUna() {
         const auto registro = Siguiente();
         ApuestaLeida apuesta;
         if (!registro) return false;
-        if (!LeerTexto(EncriptarRC4(*registro, ClaveApuestas), rapido_, apuesta, fallo)) {
+        if (!LeerTexto(EncriptarRC4(*registro, ClaveApuestas), rapido_.Forma(), apuesta, fallo)) {
             fallo.Descripcion = "apuesta " + std::to_string(leidas_ + 1) + ": " + fallo.Descripcion;
             return false;
         }
@@ -251,6 +269,7 @@ class Lectura {
     LectorRapido rapido_;
     std::array<uint8_t*, 7> filas_{};
     int64_t leidas_ = 0;
+    bool haParado_ = false; // at a record of another form, or where less than one is loaded
     std::string* etiqueta_;
     Entorno& entorno_;
 };

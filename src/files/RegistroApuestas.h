@@ -14,6 +14,7 @@
 static_assert(std::endian::native == std::endian::little, "words of a record are read as little-endian");
 
 inline constexpr size_t LargoApuesta = 20;
+inline constexpr std::string_view TextoDeCeros = "00,00,00,00,00,00+00";
 
 /// The words cover the text from these characters on; the last two overlap.
 inline constexpr std::array<size_t, 3> InicioPalabra{0, 8, 12};
@@ -36,5 +37,5 @@ inline PalabrasApuesta CargarPalabras(const char* texto) {
 
 /// The enciphered record whose seven elements are all 0.
 inline PalabrasApuesta ApuestaDeCeros() {
-    return CargarPalabras(EncriptarRC4("00,00,00,00,00,00+00", ClaveApuestas).data());
+    return CargarPalabras(EncriptarRC4(TextoDeCeros, ClaveApuestas).data());
 }

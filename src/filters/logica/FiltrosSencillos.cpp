@@ -40,10 +40,6 @@ constexpr std::array<Lista, 7> CasillasEXTERIORES{"0 exteriores y 6 interiores",
 constexpr std::array<Lista, 7> EjemplosEXTERIORES{"11 12 13 14 15 16", "01 11 12 13 14 15", "01 02 11 12 13 14",
                                                   "01 02 03 11 12 13", "01 02 03 04 11 12", "01 02 03 04 05 11",
                                                   "01 02 03 04 05 06"};
-constexpr std::array<EjemploFiltro, 2> ClasesEXTERIORES{{
-    {"Exteriores", "01 al 10, 19, 20, 29, 30, 39 y 40 al 49"},
-    {"Interiores", "11 al 18, 21 al 28 y 31 al 38"},
-}};
 
 constexpr std::array<Lista, 7> CasillasSUPERIORES{"0 superiores y 6 inferiores", "1 superior y 5 inferiores",
                                                   "2 superiores y 4 inferiores", "3 superiores y 3 inferiores",
@@ -52,10 +48,6 @@ constexpr std::array<Lista, 7> CasillasSUPERIORES{"0 superiores y 6 inferiores",
 constexpr std::array<Lista, 7> EjemplosSUPERIORES{"05 06 07 08 09 15", "01 05 06 07 08 09", "01 02 05 06 07 08",
                                                   "01 02 03 05 06 07", "01 02 03 04 05 06", "01 02 03 04 05 10",
                                                   "01 02 03 04 10 11"};
-constexpr std::array<EjemploFiltro, 2> ClasesSUPERIORES{{
-    {"Superiores", "terminados en 0, 1, 2, 3 y 4"},
-    {"Inferiores", "terminados en 5, 6, 7, 8 y 9"},
-}};
 
 constexpr std::array<FilaAciertosFiltro, 1> TablasSEGUIDOS{{{"Números Seguidos : ", "txtNumero", "cmdModificar"}}};
 constexpr std::array<Lista, 11> EjemplosSEGUIDOS{"01 02 03 04 05 06", "01 02 03 04 05 07", "01 02 03 04 06 07",
@@ -89,6 +81,25 @@ constexpr std::array<EjemploFiltro, 2> EjemplosCOLINDANTES{{
     {"Apuesta con 6 colindantes", "01 02 03 04 05 06"},
     {"Apuesta con 0 colindantes", "01 03 05 07 09 49"},
 }};
+
+constexpr TonoNumero Tono(bool resaltado) {
+    return resaltado ? TonoNumero::Resaltado : TonoNumero::Normal;
+}
+
+// The frame of the ticket seen as tens by units.
+constexpr TonoNumero DibujoEXTERIORES(int n) {
+    return Tono(n < 10 || n >= 40 || n % 10 == 0 || n % 10 == 9);
+}
+
+constexpr TonoNumero DibujoSUPERIORES(int n) {
+    return Tono(n % 10 < 5);
+}
+
+// The numbers that touch 24 in any of the eight directions.
+constexpr TonoNumero DibujoCOLINDANTES(int n) {
+    const int columnas = n / 10 - 2, filas = n % 10 - 4;
+    return n == 24 ? TonoNumero::Central : Tono(columnas * columnas <= 1 && filas * filas <= 1);
+}
 
 } // namespace
 
@@ -131,8 +142,11 @@ constexpr std::array<FiltroSencillo, 8> FiltrosSencillos{{
      .EjemplosCasillas = EjemplosEXTERIORES,
      .Marcas = [](Condiciones& c) -> std::span<uint8_t> { return c.EXTERIORESINTERIORES.ExterioresInterioresActivos; },
      .GuardaAlPulsar = true,
-     .CabeceraEjemplos = "NUMEROS",
-     .Ejemplos = ClasesEXTERIORES},
+     .CabeceraEjemplos = "NUMEROS EXTERIORES",
+     .Definicion = "Los números exteriores son los del borde del boleto: del 01 al 10, 19, 20, 29, 30, 39 y del 40 al "
+                   "49. Los interiores son los demás.",
+     .PieDibujo = "Números exteriores",
+     .Dibujo = DibujoEXTERIORES},
     {.Fila = kSUPERIORESINFERIORES,
      .Ventana = "frmFiltroSUPERIORES",
      .Frase = "Cuántos números de la mitad superior del boleto y cuántos de la inferior puede tener la apuesta.",
@@ -142,8 +156,12 @@ constexpr std::array<FiltroSencillo, 8> FiltrosSencillos{{
      .EjemplosCasillas = EjemplosSUPERIORES,
      .Marcas = [](Condiciones& c) -> std::span<uint8_t> { return c.SUPERIORESINFERIORES.SuperioresInferioresActivos; },
      .GuardaAlPulsar = true,
-     .CabeceraEjemplos = "NUMEROS",
-     .Ejemplos = ClasesSUPERIORES},
+     .CabeceraEjemplos = "NUMEROS SUPERIORES",
+     .Definicion =
+         "Los números superiores son los terminados en 0, 1, 2, 3 y 4. Los inferiores son los terminados en 5, "
+         "6, 7, 8 y 9.",
+     .PieDibujo = "Números superiores",
+     .Dibujo = DibujoSUPERIORES},
     {.Fila = kSEGUIDOS,
      .Ventana = "frmFiltroSEGUIDOS",
      .Frase = "Cuántos números seguidos puede tener la serie más larga de la apuesta, y en qué series puede dividirse.",
@@ -177,7 +195,9 @@ constexpr std::array<FiltroSencillo, 8> FiltrosSencillos{{
      .CabeceraEjemplos = "DEFINICION DE COLINDANTE",
      .Definicion = "Los números colindantes son aquellos que se tocan en cualquier posición según su disposición en el "
                    "boleto de primitiva (en cada apuesta puede haber entre 0 y 6 colindantes).",
-     .Ejemplos = EjemplosCOLINDANTES},
+     .Ejemplos = EjemplosCOLINDANTES,
+     .PieDibujo = "Ejemplo de colindantes del número 24",
+     .Dibujo = DibujoCOLINDANTES},
 }};
 
 const FiltroSencillo* FiltroSencilloDeFila(int k) {

@@ -21,6 +21,9 @@ struct EjemploFiltro {
     std::string_view Texto, Valor;
 };
 
+/// How a number is drawn in the picture of a ticket.
+enum class TonoNumero { Normal, Resaltado, Central };
+
 struct FiltroSencillo {
     FilaDe Fila{};
     std::string_view Ventana{}; ///< "frmFiltroDECENAS"
@@ -42,6 +45,8 @@ struct FiltroSencillo {
     std::string_view CabeceraEjemplos{};
     std::string_view Definicion{};
     std::span<const EjemploFiltro> Ejemplos{};
+    std::string_view PieDibujo{};               ///< caption of the picture of the ticket
+    TonoNumero (*Dibujo)(int numero) = nullptr; ///< null: no picture
 };
 
 extern const std::array<FiltroSencillo, 8> FiltrosSencillos;

@@ -1,0 +1,59 @@
+#include "DialogosFiltro.h"
+
+#include <array>
+
+#include "LogicaAbrirFila.h"
+#include "Pintores.h"
+#include "frmFiltroDISTANCIAS.h"
+#include "frmFiltroSUMAS.h"
+#include "frmFiltroSUMASPORTRIOS.h"
+#include "frmFiltroSencillo.h"
+#include "frmFiltroTERMINACIONES.h"
+
+namespace {
+
+using Dialogo = std::unique_ptr<QDialog>;
+using Fabrica = Dialogo (*)(Sesion&, Entorno&, QWidget*);
+
+template <class T>
+Dialogo Crear(Sesion& sesion, Entorno& entorno, QWidget* padre) {
+    return std::make_unique<T>(sesion, entorno, padre);
+}
+
+template <int k>
+Dialogo CrearSencillo(Sesion& sesion, Entorno&, QWidget* padre) {
+    return std::make_unique<frmFiltroSencillo>(sesion, *FiltroSencilloDeFila(k), padre);
+}
+
+constexpr std::array<Fabrica, NFilas> Fabricas = [] {
+    std::array<Fabrica, NFilas> f{};
+    f[kALTOSBAJOS] = CrearSencillo<kALTOSBAJOS>;
+    f[kDECENAS] = CrearSencillo<kDECENAS>;
+    f[kDISTANCIAS] = Crear<frmFiltroDISTANCIAS>;
+    f[kHOMOLOGOS] = CrearSencillo<kHOMOLOGOS>;
+    f[kPARESIMPARES] = CrearSencillo<kPARESIMPARES>;
+    f[kSEGUIDOS] = CrearSencillo<kSEGUIDOS>;
+    f[kSUMAS] = Crear<frmFiltroSUMAS>;
+    f[kTERMINACIONES] = Crear<frmFiltroTERMINACIONES>;
+    f[kEXTERIORESINTERIORES] = CrearSencillo<kEXTERIORESINTERIORES>;
+    f[kSUPERIORESINFERIORES] = CrearSencillo<kSUPERIORESINFERIORES>;
+    f[kCOLINDANTES] = CrearSencillo<kCOLINDANTES>;
+    f[kSUMASPORTRIOS] = Crear<frmFiltroSUMASPORTRIOS>;
+    return f;
+}();
+
+} // namespace
+
+bool HayDialogoFiltro(int k) {
+    return k >= 0 && k < NFilas && Fabricas[static_cast<size_t>(k)] != nullptr;
+}
+
+std::unique_ptr<QDialog> CrearDialogoFiltro(int k, Sesion& sesion, Entorno& entorno, QWidget* padre) {
+    return HayDialogoFiltro(k) ? Fabricas[static_cast<size_t>(k)](sesion, entorno, padre) : nullptr;
+}
+
+bool AbrirDialogoFiltro(int k, Sesion& sesion, Entorno& entorno, QWidget* padre) {
+    if (!HayDialogoFiltro(k)) return false;
+    AbrirFila(sesion, entorno, k, [&] { MostrarModal(*CrearDialogoFiltro(k, sesion, entorno, padre)); });
+    return true;
+}

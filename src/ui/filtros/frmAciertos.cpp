@@ -1,0 +1,71 @@
+#include "frmAciertos.h"
+
+#include <QHBoxLayout>
+
+#include "MarcoFiltro.h"
+#include "Pintores.h"
+#include "TextoQt.h"
+
+namespace {
+
+// White on green when chosen and black on white when not, under any desktop palette.
+const char* const EstiloCelda = "QPushButton { background: white; color: black; border: 1px solid #767676;"
+                                "  border-radius: 4px; font-weight: bold; }"
+                                "QPushButton:checked { background: #1b7f3b; color: white; border-color: #145c2b; }"
+                                "QPushButton:hover { border: 2px solid #145c2b; }"
+                                "QPushButton:focus { border: 2px solid #1a5fb4; }";
+
+} // namespace
+
+frmAciertos::frmAciertos(LogicaAciertos& l, const QString& titulo, QWidget* padre) : QDialog(padre), logica(l) {
+    setObjectName(Q("frmAciertos"));
+    setWindowTitle(QStringLiteral("Aciertos"));
+    auto* caja = new QVBoxLayout(this);
+    caja->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
+    caja->setSpacing(Paso);
+    PonerCabecera(*caja, Utf8(titulo.section(QLatin1Char(':'), 0, 0).trimmed()), "Marque los aciertos permitidos.");
+
+    auto* fila = new QHBoxLayout;
+    fila->setSpacing(Paso);
+    for (int valor = logica.MinimoAcierto; valor <= logica.MaximoAcierto; ++valor) {
+        auto* celda = CrearBoton(Utf8(NombreIndexado("lblAcierto", valor)), std::to_string(valor),
+                                 "Permitir o no " + std::to_string(valor) + (valor == 1 ? " acierto" : " aciertos"),
+                                 [this, valor] {
+                                     logica.Pulsar(valor);
+                                     Pintar();
+                                 });
+        celda->setCheckable(true);
+        celda->setFixedSize(40, 40);
+        celda->setStyleSheet(QLatin1String(EstiloCelda));
+        fila->addWidget(celda);
+        celdas_.push_back(celda);
+    }
+    fila->addStretch();
+    caja->addLayout(fila);
+    caja->addStretch();
+    caja->addSpacing(Paso);
+
+    auto* pie = new QHBoxLayout;
+    pie->addWidget(CrearBoton("imgTodos", "Todos", "Marcar todos los aciertos", [this] {
+        logica.imgTodos();
+        Pintar();
+    }));
+    pie->addWidget(CrearBoton("imgNinguno", "Ninguno", "Desmarcar todos los aciertos", [this] {
+        logica.imgNinguno();
+        Pintar();
+    }));
+    pie->addStretch();
+    pie->addWidget(CrearBoton("imgVolver", "Volver", "Volver a la condición", [this] { close(); }));
+    caja->addLayout(pie);
+    Pintar();
+}
+
+void frmAciertos::Pintar() {
+    for (size_t i = 0; i < celdas_.size(); ++i)
+        celdas_[i]->setChecked(logica.AciertosSeleccion[static_cast<size_t>(logica.MinimoAcierto) + i] == 1);
+}
+
+void ElegirAciertos(LogicaAciertos& aciertos, const QString& titulo, QWidget* padre) {
+    frmAciertos dialogo(aciertos, titulo, padre);
+    MostrarModal(dialogo);
+}

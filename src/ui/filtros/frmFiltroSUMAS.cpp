@@ -1,0 +1,50 @@
+#include "frmFiltroSUMAS.h"
+
+#include "TextoQt.h"
+
+frmFiltroSUMAS::frmFiltroSUMAS(Sesion& sesion, Entorno& entorno, QWidget* padre)
+    : QDialog(padre), logica{sesion, entorno} {
+    marco = CrearMarcoFiltro(*this, "frmFiltroSUMAS",
+                             "Entre qué valores puede estar la suma de los seis números; basta con un intervalo.",
+                             logica.marco);
+    QGridLayout* rejilla = CrearCaja(*marco.contenido, "SUMA DE LA APUESTA");
+    CrearCabeceraIntervalos(*rejilla, Q("Mínima"), Q("Máxima"));
+    for (size_t i = 0; i < intervalos.size(); ++i) {
+        const int fila = static_cast<int>(i) + 1;
+        const QString etiqueta = Q("Intervalo ") + QString::number(fila);
+        intervalos[i] = CrearFilaIntervalo(*rejilla, fila,
+                                           {.etiqueta = etiqueta,
+                                            .nombreMinimo = NombreIndexado("txtSumaMinima", fila - 1),
+                                            .nombreMaximo = NombreIndexado("txtSumaMaxima", fila - 1),
+                                            .que = etiqueta,
+                                            .or_ = i + 1 < intervalos.size(),
+                                            .alCambiarMinimo =
+                                                [this, i](const std::string& texto) {
+                                                    logica.CambiarMinima(i, texto);
+                                                    Pintar();
+                                                },
+                                            .alCambiarMaximo =
+                                                [this, i](const std::string& texto) {
+                                                    logica.CambiarMaxima(i, texto);
+                                                    Pintar();
+                                                },
+                                            .alPulsar =
+                                                [this] {
+                                                    logica.marco.ActivarFiltro();
+                                                    Pintar();
+                                                }});
+    }
+    TerminarMarco(marco, *this, logica.marco);
+    logica.Abrir();
+    Pintar();
+}
+
+void frmFiltroSUMAS::reject() {
+    if (logica.PuedeCerrar()) QDialog::reject();
+}
+
+void frmFiltroSUMAS::Pintar() {
+    PintarMarco(marco, logica.marco);
+    for (size_t i = 0; i < intervalos.size(); ++i)
+        PintarFilaIntervalo(intervalos[i], logica.txtSumaMinima[i], logica.txtSumaMaxima[i]);
+}

@@ -1,0 +1,91 @@
+#include "frmFiltroTERMINACIONES.h"
+
+#include "FilaAciertos.h"
+#include "FiltroTeclas.h"
+#include "TextoQt.h"
+#include "frmAciertos.h"
+
+frmFiltroTERMINACIONES::frmFiltroTERMINACIONES(Sesion& sesion, Entorno& entorno, QWidget* padre)
+    : QDialog(padre), logica{sesion, entorno} {
+    marco = CrearMarcoFiltro(*this, "frmFiltroTERMINACIONES",
+                             "Cuántos números pueden terminar en cada cifra, cómo pueden repartirse entre las "
+                             "terminaciones y cuánto pueden sumar éstas.",
+                             logica.marco);
+    auto* columnas = new QHBoxLayout;
+    columnas->setSpacing(2 * Paso);
+    auto* izquierda = new QVBoxLayout;
+    auto* derecha = new QVBoxLayout;
+    columnas->addLayout(izquierda);
+    columnas->addLayout(derecha);
+    marco.contenido->addLayout(columnas);
+    CrearTerminados(*izquierda);
+    CrearFiguras(*derecha);
+    CrearSuma(*derecha);
+    izquierda->addStretch();
+    derecha->addStretch();
+    TerminarMarco(marco, *this, logica.marco);
+    logica.Abrir();
+    Pintar();
+}
+
+void frmFiltroTERMINACIONES::CrearTerminados(QBoxLayout& donde) {
+    QGridLayout* rejilla = CrearCaja(donde, "ACIERTOS POR TERMINACION");
+    for (size_t d = 0; d < txtAciertos.size(); ++d) {
+        const int digito = static_cast<int>(d);
+        const QString etiqueta = Q("Terminados en ") + QString::number(digito);
+        txtAciertos[d] = CrearFilaAciertos(*rejilla, digito, etiqueta, NombreIndexado("txtAciertos", digito),
+                                           NombreIndexado("cmdModificar", digito), [this, d, etiqueta] {
+                                               LogicaAciertos aciertos = logica.AbrirModificar(d);
+                                               ElegirAciertos(aciertos, etiqueta, this);
+                                               logica.CerrarModificar(d, aciertos);
+                                               Pintar();
+                                           });
+    }
+}
+
+void frmFiltroTERMINACIONES::CrearFiguras(QBoxLayout& donde) {
+    figuras = CrearCajasFigura(*CrearCaja(donde, "FIGURAS"), "chkFigura", 1, FigurasDeTERMINACIONES,
+                               EjemplosTERMINACIONES, [this](size_t i, bool marcada) {
+                                   logica.PulsarFigura(i, marcada);
+                                   Pintar();
+                               });
+}
+
+void frmFiltroTERMINACIONES::CrearSuma(QBoxLayout& donde) {
+    QGridLayout* rejilla = CrearCaja(donde, "SUMA DE TERMINACIONES");
+    const auto alPulsar = [this] {
+        logica.marco.ActivarFiltro();
+        Pintar();
+    };
+    txtSumaTerminacionesMinimo = CrearCampoNumero(
+        Q("txtSumaTerminacionesMinimo"), Q("Suma de terminaciones mínima"),
+        [this](const std::string& texto) {
+            logica.CambiarMinimo(texto);
+            Pintar();
+        },
+        alPulsar);
+    txtSumaTerminacionesMaximo = CrearCampoNumero(
+        Q("txtSumaTerminacionesMaximo"), Q("Suma de terminaciones máxima"),
+        [this](const std::string& texto) {
+            logica.CambiarMaximo(texto);
+            Pintar();
+        },
+        alPulsar);
+    rejilla->addWidget(new QLabel(Q("Mínimo valor permitido 2(10,11,20,30,40,41)")), 0, 0);
+    rejilla->addWidget(txtSumaTerminacionesMinimo, 0, 1);
+    rejilla->addWidget(new QLabel(Q("Máximo valor permitido 53(09,19,29,39,48,49)")), 1, 0);
+    rejilla->addWidget(txtSumaTerminacionesMaximo, 1, 1);
+    rejilla->setColumnStretch(0, 1);
+}
+
+void frmFiltroTERMINACIONES::reject() {
+    if (logica.PuedeCerrar()) QDialog::reject();
+}
+
+void frmFiltroTERMINACIONES::Pintar() {
+    PintarMarco(marco, logica.marco);
+    for (size_t d = 0; d < txtAciertos.size(); ++d) txtAciertos[d]->setText(Q(logica.txtAciertos[d]));
+    PintarCajasFigura(figuras, logica.chkFigura);
+    PintarCampo(*txtSumaTerminacionesMinimo, logica.txtSumaTerminacionesMinimo);
+    PintarCampo(*txtSumaTerminacionesMaximo, logica.txtSumaTerminacionesMaximo);
+}

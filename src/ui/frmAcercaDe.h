@@ -1,0 +1,9 @@
+// The about box.
+#pragma once
+
+#include <QDialog>
+
+class frmAcercaDe final : public QDialog {
+  public:
+    explicit frmAcercaDe(QWidget* padre);
+};

@@ -1,0 +1,43 @@
+#include "frmAlazar.h"
+
+#include <QLabel>
+
+#include "MarcoFiltro.h"
+#include "TextoQt.h"
+
+frmAlazar::frmAlazar(EstadoTrabajo& trabajo, QWidget* padre) : QDialog(padre), logica{trabajo} {
+    setObjectName(Q("frmAlazar"));
+    setWindowTitle(Q("Pronóstico Aleatorio"));
+    auto* caja = new QVBoxLayout(this);
+    caja->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
+    caja->setSpacing(Paso);
+    PonerCabecera(*caja, "Pronóstico Aleatorio", "Marca en el boleto números elegidos al azar.");
+
+    auto* fila = new QHBoxLayout;
+    auto* lista = new QComboBox;
+    lista->setObjectName(Q("cboNumeros"));
+    lista->setAccessibleName(Q("Cantidad de números"));
+    lista->setToolTip(Q("Cuántos números se marcan"));
+    for (int n = 1; n <= trabajo.NumeroMaximo(); ++n) lista->addItem(QString::number(n));
+    lista->setCurrentIndex(logica.cboNumeros - 1);
+    connect(lista, &QComboBox::currentIndexChanged, this, [this](int indice) { logica.cboNumeros = indice + 1; });
+    auto* etiqueta = new QLabel(Q("Cantidad de números"));
+    etiqueta->setBuddy(lista);
+    fila->addWidget(etiqueta);
+    fila->addStretch();
+    fila->addWidget(lista);
+    caja->addLayout(fila);
+    caja->addStretch();
+    caja->addSpacing(Paso);
+
+    auto* pie = new QHBoxLayout;
+    auto* marcar = CrearBoton("cmdAlazar", "Marcar al azar", "Marcar los números en el boleto", [this] {
+        logica.Marcar();
+        accept();
+    });
+    marcar->setDefault(true);
+    pie->addWidget(marcar);
+    pie->addStretch();
+    pie->addWidget(CrearBoton("imgVolver", "Cerrar", "Cerrar sin marcar", [this] { close(); }));
+    caja->addLayout(pie);
+}

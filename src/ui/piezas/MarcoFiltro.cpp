@@ -1,0 +1,106 @@
+#include "MarcoFiltro.h"
+
+#include <QPainter>
+
+#include "FiltrosSencillos.h"
+#include "TextoQt.h"
+
+namespace {
+
+// The pill and the gap between it and the button's text.
+constexpr QSize TamanioPastilla(32, 18), TamanioInterruptor(38, 18);
+
+// A pill with its knob to the right when on. Green with a white knob, or an outline in the text's
+// colour: the state shows in place and shape, not in colour alone.
+QIcon IconoInterruptor(bool activo, const QPalette& paleta, qreal escala) {
+    QPixmap dibujo(TamanioInterruptor * escala);
+    dibujo.setDevicePixelRatio(escala);
+    dibujo.fill(Qt::transparent);
+    QPainter pintor(&dibujo);
+    pintor.setRenderHint(QPainter::Antialiasing);
+    const QRectF pastilla(1, 1, TamanioPastilla.width() - 2, TamanioPastilla.height() - 2);
+    const QColor verde(0x1B, 0x7F, 0x3B), texto = paleta.color(QPalette::ButtonText);
+    pintor.setPen(QPen(activo ? verde : texto, 1.5));
+    pintor.setBrush(activo ? QBrush(verde) : QBrush(Qt::NoBrush));
+    pintor.drawRoundedRect(pastilla, pastilla.height() / 2, pastilla.height() / 2);
+    const qreal radio = pastilla.height() / 2 - 3.5, centro = radio + 4.5;
+    pintor.setPen(Qt::NoPen);
+    pintor.setBrush(activo ? QColor(Qt::white) : texto);
+    pintor.drawEllipse(QPointF(activo ? TamanioPastilla.width() - centro : centro, pastilla.center().y()), radio,
+                       radio);
+    return QIcon(dibujo);
+}
+
+} // namespace
+
+QPushButton* CrearBoton(std::string_view nombre, std::string_view texto, std::string_view ayuda,
+                        std::function<void()> alPulsar) {
+    auto* boton = new QPushButton(Q(texto));
+    boton->setObjectName(Q(nombre));
+    boton->setToolTip(Q(ayuda));
+    boton->setAutoDefault(false);
+    QObject::connect(boton, &QPushButton::clicked, boton, [alPulsar = std::move(alPulsar)] { alPulsar(); });
+    return boton;
+}
+
+void PonerCabecera(QVBoxLayout& caja, std::string_view titulo, std::string_view frase) {
+    auto* cabecera = new QLabel(Q(titulo));
+    QFont letra = cabecera->font();
+    letra.setPointSizeF(letra.pointSizeF() * 1.4);
+    letra.setBold(true);
+    cabecera->setFont(letra);
+    auto* explicacion = new QLabel(Q(frase));
+    explicacion->setWordWrap(true);
+    caja.addWidget(cabecera);
+    caja.addWidget(explicacion);
+    caja.addSpacing(Paso);
+}
+
+QGridLayout* CrearCaja(QBoxLayout& donde, std::string_view titulo) {
+    auto* caja = new QGroupBox(Q(titulo));
+    auto* rejilla = new QGridLayout(caja);
+    rejilla->setSpacing(Paso);
+    rejilla->setContentsMargins(Paso * 3 / 2, Paso, Paso * 3 / 2, Paso * 3 / 2);
+    donde.addWidget(caja);
+    return rejilla;
+}
+
+MarcoFiltro CrearMarcoFiltro(QDialog& dialogo, std::string_view nombre, std::string_view frase,
+                             const LogicaMarco& marco) {
+    dialogo.setObjectName(Q(nombre));
+    dialogo.setWindowTitle(Q(TituloFila(marco.k)));
+    auto* caja = new QVBoxLayout(&dialogo);
+    caja->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
+    caja->setSpacing(Paso);
+    PonerCabecera(*caja, TituloFila(marco.k), frase);
+    MarcoFiltro piezas;
+    piezas.contenido = new QVBoxLayout;
+    piezas.contenido->setSpacing(Paso);
+    caja->addLayout(piezas.contenido);
+    caja->addStretch();
+    return piezas;
+}
+
+void TerminarMarco(MarcoFiltro& piezas, QDialog& dialogo, LogicaMarco& marco) {
+    auto* pie = new QHBoxLayout;
+    pie->setContentsMargins(0, Paso, 0, 0);
+    piezas.imgActivar = CrearBoton("imgActivar", "Condición desactivada", "Activar/Desactivar condición", [] {});
+    piezas.imgActivar->setIconSize(TamanioInterruptor);
+    piezas.imgVolver = CrearBoton("imgVolver", "Cerrar", "Cerrar condición", [&dialogo] { dialogo.close(); });
+    pie->addWidget(piezas.imgActivar);
+    pie->addStretch();
+    pie->addWidget(piezas.imgVolver);
+    static_cast<QVBoxLayout*>(dialogo.layout())->addLayout(pie);
+
+    piezas.imgActivar->setMinimumWidth(piezas.imgActivar->sizeHint().width());
+    QObject::connect(piezas.imgActivar, &QPushButton::clicked, &dialogo, [piezas, &marco] {
+        marco.PulsarActivar();
+        PintarMarco(piezas, marco);
+    });
+}
+
+void PintarMarco(const MarcoFiltro& piezas, const LogicaMarco& marco) {
+    QPushButton& boton = *piezas.imgActivar;
+    boton.setText(Q(marco.lblActivar()));
+    boton.setIcon(IconoInterruptor(marco.Activo(), boton.palette(), boton.devicePixelRatioF()));
+}

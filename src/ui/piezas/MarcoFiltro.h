@@ -1,0 +1,43 @@
+// The frame of a filter's dialog: heading, one sentence, content, and at the foot the switch and "Cerrar".
+#pragma once
+
+#include <QDialog>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <functional>
+#include <string_view>
+
+#include "LogicaMarco.h"
+
+/// The distance between things that belong together, and twice it around what holds them.
+inline constexpr int Paso = 8;
+
+struct MarcoFiltro {
+    QVBoxLayout* contenido = nullptr; ///< for the dialog's own widgets
+    QPushButton* imgActivar = nullptr;
+    QPushButton* imgVolver = nullptr;
+};
+
+/// Heads `dialogo`, called `nombre` and titled with the row's label, and leaves `contenido` to be filled.
+MarcoFiltro CrearMarcoFiltro(QDialog& dialogo, std::string_view nombre, std::string_view frase,
+                             const LogicaMarco& marco);
+
+/// Ends the dialog with its foot, which is the last on the way of the Tab key and so is made after the
+/// content. `imgVolver` closes as the window's cross does, through `reject`.
+void TerminarMarco(MarcoFiltro& piezas, QDialog& dialogo, LogicaMarco& marco);
+
+/// Shows the switch as the row says.
+void PintarMarco(const MarcoFiltro& piezas, const LogicaMarco& marco);
+
+/// A dialog's heading and the sentence under it, in any dialog.
+void PonerCabecera(QVBoxLayout& caja, std::string_view titulo, std::string_view frase);
+
+/// A captioned box for a grid of content.
+QGridLayout* CrearCaja(QBoxLayout& donde, std::string_view titulo);
+
+/// A button that Enter presses only when it has the focus.
+QPushButton* CrearBoton(std::string_view nombre, std::string_view texto, std::string_view ayuda,
+                        std::function<void()> alPulsar);

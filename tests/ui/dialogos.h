@@ -1,0 +1,19 @@
+// Every dialog of the program, for the test of what all of them have in common. A new dialog enters here.
+#pragma once
+
+#include <QDialog>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "Guion.h"
+
+struct DialogoProbado {
+    std::string nombre;
+    std::function<std::unique_ptr<QDialog>(Guion&)> crear;
+    bool soloVolver = false; ///< refuses Esc and the cross
+};
+
+const std::vector<DialogoProbado>& Dialogos();

@@ -8,11 +8,12 @@
 
 enum class Icono { Informacion, Exclamacion, Critico };
 
-/// What a file chooser is asked for. `Filtros` are "description|pattern" pairs, the first one chosen.
+/// What a file chooser is asked for. `Filtros` are "description|pattern" pairs.
 struct PeticionFichero {
     std::string Titulo;
     std::vector<std::pair<std::string, std::string>> Filtros; ///< description, pattern such as "*.TOM"
     std::string Nombre;                                       ///< proposed name, may be empty
+    size_t FiltroElegido = 0;                                 ///< the one that stands chosen at first
 };
 
 struct LogicaVentanaProceso;

@@ -79,6 +79,8 @@ QStringList Elegir(const PeticionFichero& peticion, QFileDialog::AcceptMode modo
     // A save under the name of an old file replaces it without asking.
     dialogo.setOption(QFileDialog::DontConfirmOverwrite);
     dialogo.setNameFilters(FiltrosDe(peticion));
+    if (peticion.FiltroElegido < peticion.Filtros.size())
+        dialogo.selectNameFilter(dialogo.nameFilters().at(static_cast<qsizetype>(peticion.FiltroElegido)));
     dialogo.setLabelText(QFileDialog::Accept, modo == QFileDialog::AcceptSave ? Q("Guardar") : Q("Abrir"));
     dialogo.setLabelText(QFileDialog::Reject, Q("Cancelar"));
     dialogo.setLabelText(QFileDialog::FileName, Q("Nombre:"));

@@ -1,5 +1,6 @@
 #include <QApplication>
 
+#include "Estilo.h"
 #include "Sesiones.h"
 #include "TextoQt.h"
 #include "entornoQt.h"
@@ -7,6 +8,7 @@
 
 int main(int argc, char** argv) {
     QApplication aplicacion(argc, argv);
+    QApplication::setStyle(new Estilo);
     QApplication::setApplicationName(Q("TOMBOLERA"));
     QGuiApplication::setDesktopFileName(Q("org.tombolera.Tombolera"));
     Sesion sesion;

@@ -167,6 +167,7 @@ TEST(Dialogos, Retratos) {
     for (const DialogoProbado& probado : Dialogos()) {
         for (const bool oscuro : {false, true}) {
             Guion guion;
+            for (FilaFiltro& fila : guion.sesion.condiciones.lstFiltros) fila.Activo = oscuro;
             QApplication::setPalette(oscuro ? Oscura() : clara);
             const auto dialogo = probado.crear(guion);
             dialogo->show();

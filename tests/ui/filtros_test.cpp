@@ -179,9 +179,9 @@ TEST(DialogosFiltro, CadaModificarAbreElSelectorDeSuTabla) {
                 Pulsar(aciertos, "imgTodos");
                 Pulsar(aciertos, "imgNinguno");
                 Pulsar(aciertos, Indice("lblAcierto", i + 1));
-                Pulsar(aciertos, "lblAcierto_6");
+                QTest::keyClick(&aciertos, Qt::Key_6);
                 EXPECT_TRUE(Hijo<QAbstractButton>(aciertos, "lblAcierto_6")->isChecked());
-                Pulsar(aciertos, "imgVolver");
+                QTest::keyClick(Hijo<QAbstractButton>(aciertos, "lblAcierto_6"), Qt::Key_Return);
                 EXPECT_FALSE(aciertos.isVisible());
             });
             Pulsar(*dialogo, std::string(filtro.Tablas[i].Boton));

@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include "Estilo.h"
+
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argc, argv);
     QApplication aplicacion(argc, argv);
+    QApplication::setStyle(new Estilo);
     return RUN_ALL_TESTS();
 }

@@ -1,6 +1,7 @@
 #include "frmAciertos.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 
 #include "MarcoFiltro.h"
 #include "Pintores.h"
@@ -55,8 +56,18 @@ frmAciertos::frmAciertos(LogicaAciertos& l, const QString& titulo, QWidget* padr
         Pintar();
     }));
     pie->addStretch();
-    pie->addWidget(CrearBoton("imgVolver", "Volver", "Volver a la condición", [this] { close(); }));
+    auto* volver = CrearBoton("imgVolver", "Volver", "Volver a la condición", [this] { close(); });
+    volver->setDefault(true);
+    pie->addWidget(volver);
     caja->addLayout(pie);
+    Pintar();
+}
+
+void frmAciertos::keyPressEvent(QKeyEvent* evento) {
+    bool esCifra = false;
+    const int valor = evento->text().toInt(&esCifra);
+    if (!esCifra || valor < logica.MinimoAcierto || valor > logica.MaximoAcierto) return QDialog::keyPressEvent(evento);
+    logica.Pulsar(valor);
     Pintar();
 }
 

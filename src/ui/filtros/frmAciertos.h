@@ -13,6 +13,10 @@ class frmAciertos final : public QDialog {
     /// `titulo` names the hit table that is being changed.
     frmAciertos(LogicaAciertos& logica, const QString& titulo, QWidget* padre);
 
+  protected:
+    /// A digit works as a click on its cell.
+    void keyPressEvent(QKeyEvent* evento) override;
+
   private:
     void Pintar();
 

@@ -9,7 +9,7 @@
 namespace {
 
 // Paper and ink of the printed ticket, the same under a light and a dark desktop.
-constexpr QColor Papel(0xFF, 0xFB, 0xF2), Tinta(0xB7, 0x1C, 0x1C), Suave(0xF6, 0xC9, 0xC4);
+constexpr QColor Papel(0xFF, 0xFD, 0xF5), Tinta(0xB8, 0x10, 0x2A), Suave(0xFB, 0xD3, 0xC9), Raya(0xDF, 0xA9, 0x9D);
 constexpr int Columnas = 5, Filas = 10;
 
 } // namespace
@@ -36,7 +36,7 @@ void DibujoBoleto::paintEvent(QPaintEvent*) {
         if (tono != TonoNumero::Normal) pintor.fillRect(celda, tono == TonoNumero::Central ? Tinta : Suave);
         pintor.setPen(tono == TonoNumero::Central ? QColor(Qt::white) : Tinta);
         if (n > 0) pintor.drawText(celda, Qt::AlignCenter, Q(Formato00(n)));
-        pintor.setPen(Suave);
+        pintor.setPen(Raya);
         pintor.drawRect(celda);
     }
 }

@@ -1,0 +1,20 @@
+// One run of the batch front end.
+#pragma once
+
+#include <functional>
+
+#include "Salida.h"
+#include "entornoLote.h"
+
+/// Exit statuses.
+enum : int { EstadoBien = 0, EstadoMensaje = 1, EstadoArgumentos = 2, EstadoInterrumpido = 130 };
+
+struct Lote {
+    OpcionesLote opciones;
+    Sesion sesion;
+    Consola consola;
+    Entorno entorno;
+    Salida salida;
+    /// The order that the arguments chose: false when a box or a "no" ended it.
+    std::function<bool(Lote&)> Orden;
+};

@@ -1,0 +1,87 @@
+// calcular: the calculation of a base file, its counts and the files of its bets.
+#include <nlohmann/json.hpp>
+
+#include <fmt/format.h>
+
+#include "Argumentos.h"
+#include "CalcularSistema.h"
+#include "GuardarCombinacion.h"
+#include "Ordenes.h"
+#include "TablaFiltros.h"
+#include "TextoApuestas.h"
+#include "modXML.h"
+
+namespace {
+
+struct ArgumentosCalcular {
+    std::string Base, Guardar, Texto, Condicionadas;
+    bool Json = false;
+};
+
+// The active filters in row order with what each one eliminated.
+std::vector<std::pair<std::string, int32_t>> Eliminadas(const Condiciones& condiciones) {
+    std::vector<std::pair<std::string, int32_t>> cuentas;
+    for (size_t k = 0; k < NFiltros; ++k)
+        if (condiciones.lstFiltros[k].Activo)
+            cuentas.emplace_back(TablaFiltros[k].nombre, condiciones.EliminadasPorFiltro[k]);
+    return cuentas;
+}
+
+std::string CuentasComoTexto(const Sesion& sesion) {
+    const Contadores& contador = sesion.trabajo.Contador;
+    std::string texto = fmt::format("Iniciales: {}\nCondicionadas: {}\nReducidas: {}\nCiclos: {}\n", contador.Iniciales,
+                                    contador.Condicionadas, contador.Reducidas, 0);
+    for (const auto& [nombre, cuenta] : Eliminadas(sesion.condiciones))
+        texto += fmt::format("Eliminadas {}: {}\n", nombre, cuenta);
+    return texto;
+}
+
+std::string CuentasComoJson(const Sesion& sesion) {
+    const Contadores& contador = sesion.trabajo.Contador;
+    nlohmann::ordered_json eliminadas = nlohmann::ordered_json::object();
+    for (const auto& [nombre, cuenta] : Eliminadas(sesion.condiciones)) eliminadas[nombre] = cuenta;
+    const nlohmann::ordered_json cuentas = {{"iniciales", contador.Iniciales},
+                                            {"condicionadas", contador.Condicionadas},
+                                            {"reducidas", contador.Reducidas},
+                                            {"ciclos", 0},
+                                            {"eliminadas", eliminadas}};
+    return cuentas.dump() + "\n";
+}
+
+// The calculation is done: a file that fails does not keep the others from being written.
+bool GuardarFicheros(Lote& lote, const ArgumentosCalcular& argumentos) {
+    const EstadoTrabajo& trabajo = lote.sesion.trabajo;
+    bool bien = true;
+    if (!argumentos.Guardar.empty()) {
+        lote.entorno.PedirGuardar = Responder(argumentos.Guardar);
+        bien = GuardarCombinacion(lote.sesion, lote.entorno);
+    }
+    if (!argumentos.Texto.empty())
+        bien = GuardarTextoApuestas(argumentos.Texto, trabajo.ApuestasReducidas, lote.entorno) && bien;
+    if (!argumentos.Condicionadas.empty())
+        bien = GuardarTextoApuestas(argumentos.Condicionadas, trabajo.ApuestasCondicionadas, trabajo.BaseNumeros.data(),
+                                    lote.entorno) &&
+               bien;
+    return bien;
+}
+
+bool Calcular(Lote& lote, const ArgumentosCalcular& argumentos) {
+    if (!AbrirFicheroBase(argumentos.Base, lote.sesion, lote.entorno)) return false;
+    if (!CalcularSistema(lote.sesion, lote.entorno)) return false;
+    const bool guardado = GuardarFicheros(lote, argumentos);
+    lote.salida.Escribir(argumentos.Json ? CuentasComoJson(lote.sesion) : CuentasComoTexto(lote.sesion));
+    return guardado;
+}
+
+} // namespace
+
+void DeclararCalcular(CLI::App& programa, Lote& lote) {
+    const auto argumentos = std::make_shared<ArgumentosCalcular>();
+    CLI::App* orden = NuevaOrden(programa, lote, "calcular", "Calcula el sistema de un fichero base",
+                                 [argumentos](Lote& l) { return Calcular(l, *argumentos); });
+    Fichero(orden, "BASE.xml", argumentos->Base, "Fichero base que se abre");
+    Fichero(orden, "--guardar", argumentos->Guardar, "Graba el sistema final, y a su lado su fichero base");
+    Fichero(orden, "--texto", argumentos->Texto, "Escribe las apuestas finales, doce cifras por línea");
+    Fichero(orden, "--condicionadas", argumentos->Condicionadas, "Escribe igual las apuestas condicionadas");
+    orden->add_flag("--json", argumentos->Json, "Escribe las cuentas como un objeto JSON");
+}

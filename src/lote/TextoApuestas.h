@@ -1,0 +1,15 @@
+// Bets as a text file, twelve digits a line.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "Entorno.h"
+#include "Tabla.h"
+
+/// Saves the bets of a table of real numbers. A failure shows its box, keeps a file that was there
+/// and gives false.
+bool GuardarTextoApuestas(const std::string& ruta, const Tabla& apuestas, Entorno& entorno);
+
+/// The same for a table of positions in `base`.
+bool GuardarTextoApuestas(const std::string& ruta, const Tabla& apuestas, const uint8_t* base, Entorno& entorno);

@@ -1,0 +1,76 @@
+// Help, version and wrong arguments. TOMBOLERA_REGENERAR=1 in the environment writes the help texts
+// anew instead of comparing them.
+#include <cstdlib>
+
+#include <gtest/gtest.h>
+
+#include "Guion.h"
+#include "Proceso.h"
+
+namespace {
+
+struct CasoAyuda {
+    std::string Nombre;
+    Textos Argumentos;
+};
+
+class Ayuda : public testing::TestWithParam<CasoAyuda> {};
+
+TEST_P(Ayuda, EsLaGuardada) {
+    const Resultado r = Correr(GetParam().Argumentos);
+    EXPECT_EQ(r.Estado, 0);
+    EXPECT_EQ(r.Errores, "");
+    const std::string ruta = std::string(AYUDAS) + "/" + GetParam().Nombre + ".txt";
+    if (std::getenv("TOMBOLERA_REGENERAR") != nullptr) EscribirTodo(ruta, r.Salida);
+    EXPECT_EQ(r.Salida, LeerTodo(ruta));
+}
+
+INSTANTIATE_TEST_SUITE_P(Ordenes, Ayuda,
+                         testing::Values(CasoAyuda{"programa", {"--ayuda"}},
+                                         CasoAyuda{"calcular", {"calcular", "--ayuda"}},
+                                         CasoAyuda{"base", {"base", "--ayuda"}}, CasoAyuda{"ver", {"ver", "--ayuda"}}),
+                         [](const auto& caso) { return caso.param.Nombre; });
+
+TEST(Argumentos, VersionEnUnaLinea) {
+    const Resultado r = Correr({"--version"});
+    EXPECT_EQ(r.Estado, 0);
+    EXPECT_EQ(r.Salida, "tombolera-lote 11.1\n");
+    EXPECT_EQ(r.Errores, "");
+}
+
+TEST(Argumentos, LosMalosDicenQueFallaYComoSeUsa) {
+    struct Caso {
+        Textos Argumentos;
+        std::string Motivo, Orden;
+    };
+    const std::vector<Caso> casos{
+        {{}, "falta la orden", ""},
+        {{"adivinar"}, "no se espera adivinar", ""},
+        {{"--nada", "ver", "a.TOM"}, "no se espera --nada", "ver"},
+        {{"--help"}, "no se espera --help", ""},
+        {{"calcular"}, "falta BASE.xml", "calcular"},
+        {{"calcular", ""}, "BASE.xml: el nombre del fichero está vacío", "calcular"},
+        {{"calcular", "a.xml", "b.xml"}, "no se espera b.xml", "calcular"},
+        {{"calcular", "a.xml", "--guardar"}, "--guardar necesita un valor", "calcular"},
+        {{"calcular", "a.xml", "--texto", "a", "--texto", "b"}, "--texto se ha dado más de una vez", "calcular"},
+        {{"base", "a.xml"}, "falta --guardar", "base"},
+        {{"ver", "a.TOM", "--juego", "QUINIELA"},
+         "--juego: se espera PRIMITIVA, BONOLOTO o EURODREAMS, no QUINIELA",
+         "ver"},
+        {{"--servicio", "servidor", "ver", "a.TOM"},
+         "--servicio: se espera una dirección como https://servidor:puerto, no servidor",
+         "ver"},
+    };
+    for (const Caso& caso : casos) {
+        SCOPED_TRACE(testing::PrintToString(caso.Argumentos));
+        const Resultado r = Correr(caso.Argumentos);
+        EXPECT_EQ(r.Estado, 2);
+        EXPECT_EQ(r.Salida, "");
+        const std::string nombre = "tombolera-lote" + (caso.Orden.empty() ? "" : " " + caso.Orden);
+        EXPECT_TRUE(r.Errores.starts_with("tombolera-lote: " + caso.Motivo + "\nUso: " + nombre + " [opciones] "))
+            << r.Errores;
+        EXPECT_TRUE(r.Errores.ends_with("\nAyuda: " + nombre + " --ayuda\n")) << r.Errores;
+    }
+}
+
+} // namespace

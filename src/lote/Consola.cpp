@@ -28,9 +28,13 @@ void Consola::Linea(const std::string& texto) {
     std::fputs((EnUnaLinea(texto) + "\n").c_str(), stderr);
 }
 
-void Consola::Progreso(const std::string& texto) {
-    if (!terminal_ || Reloj::now() - ultimo_ < std::chrono::milliseconds(100)) return;
+bool Consola::TocaProgreso() {
+    if (!terminal_ || Reloj::now() - ultimo_ < std::chrono::milliseconds(100)) return false;
     ultimo_ = Reloj::now();
+    return true;
+}
+
+void Consola::PintarProgreso(const std::string& texto) {
     hayProgreso_ = true;
     std::fputs((BorrarLinea + texto).c_str(), stderr);
     std::fflush(stderr);

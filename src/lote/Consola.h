@@ -14,14 +14,19 @@ class Consola {
     /// A box's text as a line of its own: each line end inside becomes " | ", those at its end go.
     void Linea(const std::string& texto);
 
-    /// Replaces the progress line, at most ten times a second. Nothing when standard error is no terminal.
-    void Progreso(const std::string& texto);
+    /// Replaces the progress line by `texto()`, at most ten times a second. Nothing when standard error
+    /// is no terminal.
+    template <class Texto>
+    void Progreso(Texto texto) {
+        if (TocaProgreso()) PintarProgreso(texto());
+    }
     void BorrarProgreso();
-
-    bool EsTerminal() const { return terminal_; }
 
   private:
     using Reloj = std::chrono::steady_clock;
+
+    bool TocaProgreso();
+    void PintarProgreso(const std::string& texto);
 
     bool terminal_;
     bool hayProgreso_ = false;

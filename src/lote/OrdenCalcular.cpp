@@ -6,7 +6,9 @@
 #include "Argumentos.h"
 #include "CalcularSistema.h"
 #include "GuardarCombinacion.h"
+#include "LogicaVentanaProceso.h"
 #include "Ordenes.h"
+#include "Parada.h"
 #include "TablaFiltros.h"
 #include "TextoApuestas.h"
 #include "modXML.h"
@@ -15,8 +17,27 @@ namespace {
 
 struct ArgumentosCalcular {
     std::string Base, Guardar, Texto, Condicionadas;
+    int32_t Ciclos = 0, Segundos = 0; ///< ends of a reduction, 0 where none was given
     bool Json = false;
 };
+
+// Stands in for the user at the process window: one run, with its ends and the stop button.
+// `ciclos` gets the cycles that it made.
+void CorrerReduccion(LogicaVentanaProceso& ventana, Lote& lote, const ArgumentosCalcular& argumentos, int64_t& ciclos) {
+    ventana.TopeSegundos = argumentos.Segundos;
+    ventana.TopeCiclos = argumentos.Ciclos == 0 && argumentos.Segundos == 0 ? 1 : argumentos.Ciclos;
+    const auto cederTurno = lote.entorno.CederTurno;
+    lote.entorno.CederTurno = [&] {
+        lote.consola.Progreso([&] {
+            return fmt::format("Ciclo {}, {:.0f} %, {} apuestas", ventana.lblCiclos, 100 * ventana.lblProgressBar,
+                               ventana.lblApuestasVP);
+        });
+        if (ParadaPedida()) ventana.Detener();
+    };
+    ventana.Activar();
+    lote.entorno.CederTurno = cederTurno;
+    ciclos = static_cast<int64_t>(ventana.CicloActual);
+}
 
 // The active filters in row order with what each one eliminated.
 std::vector<std::pair<std::string, int32_t>> Eliminadas(const Condiciones& condiciones) {
@@ -27,23 +48,23 @@ std::vector<std::pair<std::string, int32_t>> Eliminadas(const Condiciones& condi
     return cuentas;
 }
 
-std::string CuentasComoTexto(const Sesion& sesion) {
+std::string CuentasComoTexto(const Sesion& sesion, int64_t ciclos) {
     const Contadores& contador = sesion.trabajo.Contador;
     std::string texto = fmt::format("Iniciales: {}\nCondicionadas: {}\nReducidas: {}\nCiclos: {}\n", contador.Iniciales,
-                                    contador.Condicionadas, contador.Reducidas, 0);
+                                    contador.Condicionadas, contador.Reducidas, ciclos);
     for (const auto& [nombre, cuenta] : Eliminadas(sesion.condiciones))
         texto += fmt::format("Eliminadas {}: {}\n", nombre, cuenta);
     return texto;
 }
 
-std::string CuentasComoJson(const Sesion& sesion) {
+std::string CuentasComoJson(const Sesion& sesion, int64_t ciclos) {
     const Contadores& contador = sesion.trabajo.Contador;
     nlohmann::ordered_json eliminadas = nlohmann::ordered_json::object();
     for (const auto& [nombre, cuenta] : Eliminadas(sesion.condiciones)) eliminadas[nombre] = cuenta;
     const nlohmann::ordered_json cuentas = {{"iniciales", contador.Iniciales},
                                             {"condicionadas", contador.Condicionadas},
                                             {"reducidas", contador.Reducidas},
-                                            {"ciclos", 0},
+                                            {"ciclos", ciclos},
                                             {"eliminadas", eliminadas}};
     return cuentas.dump() + "\n";
 }
@@ -67,9 +88,14 @@ bool GuardarFicheros(Lote& lote, const ArgumentosCalcular& argumentos) {
 
 bool Calcular(Lote& lote, const ArgumentosCalcular& argumentos) {
     if (!AbrirFicheroBase(argumentos.Base, lote.sesion, lote.entorno)) return false;
+    int64_t ciclos = 0;
+    lote.entorno.MostrarVentanaProceso = [&](LogicaVentanaProceso& ventana) {
+        CorrerReduccion(ventana, lote, argumentos, ciclos);
+    };
     if (!CalcularSistema(lote.sesion, lote.entorno)) return false;
     const bool guardado = GuardarFicheros(lote, argumentos);
-    lote.salida.Escribir(argumentos.Json ? CuentasComoJson(lote.sesion) : CuentasComoTexto(lote.sesion));
+    lote.salida.Escribir(argumentos.Json ? CuentasComoJson(lote.sesion, ciclos)
+                                         : CuentasComoTexto(lote.sesion, ciclos));
     return guardado;
 }
 
@@ -80,6 +106,9 @@ void DeclararCalcular(CLI::App& programa, Lote& lote) {
     CLI::App* orden = NuevaOrden(programa, lote, "calcular", "Calcula el sistema de un fichero base",
                                  [argumentos](Lote& l) { return Calcular(l, *argumentos); });
     Fichero(orden, "BASE.xml", argumentos->Base, "Fichero base que se abre");
+    Entero(orden, "--ciclos", argumentos->Ciclos, 1, "Ciclos de una reducción que no acaba por sí sola; si falta, 1");
+    Entero(orden, "--segundos", argumentos->Segundos, 1,
+           "Segundos de esa reducción, en lugar de los ciclos o con ellos");
     Fichero(orden, "--guardar", argumentos->Guardar, "Graba el sistema final, y a su lado su fichero base");
     Fichero(orden, "--texto", argumentos->Texto, "Escribe las apuestas finales, doce cifras por línea");
     Fichero(orden, "--condicionadas", argumentos->Condicionadas, "Escribe igual las apuestas condicionadas");

@@ -19,8 +19,7 @@ Entorno CrearEntornoLote(const OpcionesLote& opciones, const Sesion& sesion, Con
         consola.Linea(texto + (si ? " -> sí" : " -> no"));
         return si;
     };
-    if (consola.EsTerminal())
-        entorno.CederTurno = [&consola, &sesion] { consola.Progreso(TextoProgreso(sesion.trabajo)); };
+    entorno.CederTurno = [&consola, &sesion] { consola.Progreso([&sesion] { return TextoProgreso(sesion.trabajo); }); };
     entorno.Ahora = AhoraDelSistema;
     entorno.CarpetaInformes = opciones.Carpeta;
     return entorno;

@@ -1,3 +1,4 @@
+#include <csignal>
 #include <filesystem>
 
 #include <gtest/gtest.h>
@@ -27,8 +28,14 @@ class Calcular : public testing::Test {
         guion.sesion.condiciones.SUMAS.intervalos[0] = {21, 91};
         Fila(kSUMAS).Activo = true;
     }
+    // "al 5", in cycles without an end.
+    void ActivarReduccion() {
+        guion.sesion.trabajo.Reduccion.TipoReduccion = 1;
+        guion.sesion.condiciones.lstFiltros[FilaReduccion].Activo = true;
+    }
+    void EscribirBase() { EscribirTodo(carpeta.Ruta("base.xml"), GenerarXMLBase(guion.sesion, guion.entorno)); }
     Resultado Ejecutar(Textos argumentos) {
-        EscribirTodo(carpeta.Ruta("base.xml"), GenerarXMLBase(guion.sesion, guion.entorno));
+        EscribirBase();
         return Correr(argumentos, {.Carpeta = carpeta.Ruta()});
     }
     std::string Escrito(const std::string& nombre) { return LeerTodo(carpeta.Ruta(nombre)); }
@@ -112,6 +119,43 @@ TEST_F(Calcular, LoQueNoSePuedeEscribirNoImpideLoDemas) {
     EXPECT_TRUE(r.Errores.starts_with(caja)) << r.Errores;
     EXPECT_NE(r.Errores.find("\n" + caja), std::string::npos) << r.Errores;
     EXPECT_EQ(Escrito("cond.txt").size(), 28u * 14);
+}
+
+TEST_F(Calcular, LaReduccionSinFinHaceLosCiclosPedidos) {
+    ActivarReduccion();
+    for (const auto& [argumentos, ciclos] :
+         {std::pair{Textos{}, "Ciclos: 1\n"}, {Textos{"--ciclos", "7"}, "Ciclos: 7\n"}}) {
+        Textos todos{"calcular", "base.xml", "--texto", "final.txt"};
+        todos.insert(todos.end(), argumentos.begin(), argumentos.end());
+        const Resultado r = Ejecutar(todos);
+        EXPECT_EQ(r.Estado, 0);
+        EXPECT_NE(r.Salida.find(ciclos), std::string::npos) << r.Salida;
+        const auto reducidas = Escrito("final.txt").size() / 14;
+        EXPECT_GE(reducidas, 3u); // a bet covers itself and 12 others of the 28
+        EXPECT_LT(reducidas, 28u);
+        EXPECT_NE(r.Salida.find("\nReducidas: " + std::to_string(reducidas) + "\n"), std::string::npos) << r.Salida;
+    }
+}
+
+// The progress line of the terminal tells when a system stands; then the user stops.
+TEST_F(Calcular, InterrumpidaGuardaElMejorSistema) {
+    ActivarReduccion();
+    EscribirBase();
+    const auto parar = [](pid_t hijo, const std::string& errores) {
+        const size_t progreso = errores.rfind("%, ");
+        const bool hay = progreso != std::string::npos && errores[progreso + 3] >= '1' && errores[progreso + 3] <= '9';
+        if (hay) kill(hijo, SIGINT);
+        return hay;
+    };
+    const Resultado r = Correr({"calcular", "base.xml", "--segundos", "600", "--guardar", "mejor.TOM"},
+                               {.Carpeta = carpeta.Ruta(), .Terminal = true, .AlLeerErrores = parar});
+    EXPECT_EQ(r.Estado, 130);
+    EXPECT_TRUE(r.Errores.ends_with("\r\033[K")) << "the progress line stays";
+    Tabla apuestas;
+    const int32_t n =
+        LeerFicheroApuestas(carpeta.Ruta("mejor.TOM"), apuestas, nullptr, Juegos[PRIMITIVA], guion.entorno);
+    EXPECT_NE(r.Salida.find("\nReducidas: " + std::to_string(n) + "\n"), std::string::npos) << r.Salida;
+    EXPECT_TRUE(Existe("mejor.xml"));
 }
 
 } // namespace

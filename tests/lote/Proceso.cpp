@@ -1,6 +1,7 @@
 #include "Proceso.h"
 
 #include <array>
+#include <cstdlib>
 #include <stdexcept>
 
 #include <fcntl.h>
@@ -10,13 +11,15 @@
 
 namespace {
 
+// A pipe, or a terminal that is written at one end and read at the other.
 struct Tuberia {
     int Lectura = -1, Escritura = -1;
-    Tuberia() {
+    explicit Tuberia(bool terminal) {
         std::array<int, 2> extremos{};
-        if (pipe2(extremos.data(), O_CLOEXEC) != 0) throw std::runtime_error("pipe2");
-        Lectura = extremos[0];
-        Escritura = extremos[1];
+        if (!terminal && pipe2(extremos.data(), O_CLOEXEC) != 0) throw std::runtime_error("pipe2");
+        Lectura = terminal ? posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC) : extremos[0];
+        if (terminal && (grantpt(Lectura) != 0 || unlockpt(Lectura) != 0)) throw std::runtime_error("posix_openpt");
+        Escritura = terminal ? open(ptsname(Lectura), O_RDWR | O_NOCTTY | O_CLOEXEC) : extremos[1];
     }
     ~Tuberia() {
         CerrarLectura();
@@ -54,12 +57,14 @@ void Recoger(Tuberia& tuberia, std::string& texto) {
         tuberia.CerrarLectura();
 }
 
-void RecogerTodo(Tuberia& salida, Tuberia& errores, Resultado& resultado) {
+void RecogerTodo(Tuberia& salida, Tuberia& errores, Resultado& resultado, pid_t hijo, const ComoCorrer& como) {
+    bool pendiente = como.AlLeerErrores != nullptr;
     while (salida.Lectura >= 0 || errores.Lectura >= 0) {
         std::array<pollfd, 2> esperas{{{salida.Lectura, POLLIN, 0}, {errores.Lectura, POLLIN, 0}}};
         if (poll(esperas.data(), esperas.size(), -1) < 0) throw std::runtime_error("poll");
         if (esperas[0].revents != 0) Recoger(salida, resultado.Salida);
         if (esperas[1].revents != 0) Recoger(errores, resultado.Errores);
+        if (pendiente) pendiente = !como.AlLeerErrores(hijo, resultado.Errores);
     }
 }
 
@@ -78,7 +83,7 @@ Resultado Correr(const std::vector<std::string>& argumentos, const ComoCorrer& c
     for (std::string& texto : textos) argv.push_back(texto.data());
     argv.push_back(nullptr);
 
-    Tuberia salida, errores;
+    Tuberia salida(false), errores(como.Terminal);
     const pid_t hijo = fork();
     if (hijo < 0) throw std::runtime_error("fork");
     if (hijo == 0) SerElPrograma(argv, como, salida.Escritura, errores.Escritura);
@@ -91,7 +96,7 @@ Resultado Correr(const std::vector<std::string>& argumentos, const ComoCorrer& c
         como.AlEscribir(hijo);
     }
     Resultado resultado;
-    RecogerTodo(salida, errores, resultado);
+    RecogerTodo(salida, errores, resultado, hijo, como);
     resultado.Estado = EstadoDe(hijo);
     return resultado;
 }

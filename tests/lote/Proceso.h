@@ -20,6 +20,9 @@ struct ComoCorrer {
     std::string Carpeta{};  ///< working folder, the test's own if empty
     std::string SalidaEn{}; ///< path that takes standard output instead of `Salida`
     bool SinLector = false; ///< standard output is a pipe that nobody reads
+    bool Terminal = false;  ///< standard error is a terminal
+    /// Called with all of standard error whenever there is more of it, until it says that it is done.
+    std::function<bool(pid_t, const std::string&)> AlLeerErrores{};
     /// Called once the program has written something to standard output; nothing is read before.
     std::function<void(pid_t)> AlEscribir{};
 };

@@ -1,7 +1,8 @@
 #include "Supervivientes.h"
 
-#include <algorithm>
 #include <cstring>
+
+#include "Traslados.h"
 
 void PrepararEliminadas(EstadoTrabajo& trabajo) {
     const auto n = static_cast<size_t>(trabajo.ApuestasEnTabla);
@@ -11,38 +12,31 @@ void PrepararEliminadas(EstadoTrabajo& trabajo) {
 }
 
 void TraducirImportadas(EstadoTrabajo& trabajo) {
-    std::array<uint8_t, 256> posicion{};
+    PorPosicion posicion{};
     for (int p = 1; p <= trabajo.NumerosBase; ++p)
         posicion[trabajo.BaseNumeros[static_cast<size_t>(p)]] = static_cast<uint8_t>(p);
     const int64_t n = trabajo.NApuestasImportadas;
     trabajo.TablaApuestas.DimensionarSinLimpiar(7, n);
     for (int r = 1; r <= 6; ++r)
-        std::transform(trabajo.ApuestasImportadas.Fila(r), trabajo.ApuestasImportadas.Fila(r) + n,
-                       trabajo.TablaApuestas.Fila(r), [&](uint8_t numero) { return posicion[numero]; });
+        Traducir(trabajo.ApuestasImportadas.Fila(r), n, posicion, trabajo.TablaApuestas.Fila(r));
     std::memcpy(trabajo.TablaApuestas.Fila(7), trabajo.ApuestasImportadas.Fila(7), static_cast<size_t>(n));
 }
 
 void CopiarSupervivientes(EstadoTrabajo& trabajo) {
-    const Tabla& origen = trabajo.TablaApuestas;
-    const uint8_t* eliminada = trabajo.ApuestaEliminada.Fila(1);
-    trabajo.ApuestasCondicionadas.DimensionarSinLimpiar(origen.Filas(), trabajo.Contador.Condicionadas);
-    for (int r = 1; r <= origen.Filas(); ++r) {
-        const uint8_t* de = origen.Fila(r);
-        uint8_t* a = trabajo.ApuestasCondicionadas.Fila(r);
-        for (int64_t i = 0; i < trabajo.ApuestasEnTabla; ++i) {
-            *a = de[i];
-            a += eliminada[i] == 0;
-        }
-    }
+    const int64_t n = trabajo.ApuestasEnTabla;
+    uint8_t* eliminada = trabajo.ApuestaEliminada.Fila(1);
+    std::memset(eliminada + n, 1, 64);
+    trabajo.ApuestasCondicionadas.DimensionarSinLimpiar(trabajo.TablaApuestas.Filas(), trabajo.Contador.Condicionadas);
+    Compactar(trabajo.TablaApuestas, eliminada, n, trabajo.ApuestasCondicionadas);
 }
 
 void TraducirCondicionadas(EstadoTrabajo& trabajo) {
     const Tabla& origen = trabajo.ApuestasCondicionadas;
     const int64_t n = origen.Apuestas();
+    PorPosicion numero{};
+    for (size_t p = 1; p <= static_cast<size_t>(trabajo.NumerosBase); ++p) numero[p] = trabajo.BaseNumeros[p];
     trabajo.ApuestasReducidas.DimensionarSinLimpiar(7, n);
-    for (int r = 1; r <= 6; ++r)
-        std::transform(origen.Fila(r), origen.Fila(r) + n, trabajo.ApuestasReducidas.Fila(r),
-                       [&](uint8_t posicion) { return trabajo.BaseNumeros[posicion]; });
+    for (int r = 1; r <= 6; ++r) Traducir(origen.Fila(r), n, numero, trabajo.ApuestasReducidas.Fila(r));
     if (origen.Filas() == 7)
         std::memcpy(trabajo.ApuestasReducidas.Fila(7), origen.Fila(7), static_cast<size_t>(n));
     else

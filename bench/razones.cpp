@@ -1,6 +1,7 @@
 // Prints how many times its reference each work takes, and how many it may:
 //
-//     razones [rondas]        at least 7 rounds, 9 unless said
+//     razones [rondas [procesador]]    at least 7 rounds, 9 unless said; the vector code of that
+//                                      processor ("AVX2", "SSSE3") in place of the best one
 //
 // Rounds are interleaved, all works in each, and minima of the thread's processor time are compared, so
 // that a disturbance of the machine falls on all alike. Ends with 1 if an answer is wrong or a work
@@ -10,6 +11,10 @@
 #include <ctime>
 
 #include <fmt/format.h>
+
+#include "Objetivos.h"
+
+#include <hwy/targets.h>
 
 #include "Escenario.h"
 
@@ -52,10 +57,16 @@ bool Ronda(Escenario& escenario, Minimos& minimos) {
     return bien;
 }
 
+void UsarProcesador(const std::string& nombre) {
+    for (const int64_t procesador : hwy::SupportedAndGeneratedTargets())
+        if (hwy::TargetName(procesador) != nombre) hwy::DisableTargets(procesador & ~HWY_SCALAR);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     const int rondas = std::max(7, argc > 1 ? std::atoi(argv[1]) : 9);
+    if (argc > 2) UsarProcesador(argv[2]);
     Escenario escenario;
     Minimos minimos;
     minimos.trabajos.assign(escenario.Trabajos().size(), 1e9);

@@ -1,0 +1,90 @@
+// Writing and reading a bet file of the whole ticket, beside the same bytes through plain calls of the
+// system, which is what dd does: ficheros FOLDER. The four take turns so that all meet the same
+// machine; each figure is the median of the rounds.
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <memory>
+#include <numeric>
+#include <string>
+#include <vector>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "modEncriptarFichero.h"
+
+namespace {
+
+constexpr int Vueltas = 5;
+
+Tabla TodoElBoleto() {
+    Tabla tabla(7, ApuestasMaximas);
+    std::array<uint8_t, 6> a{1, 2, 3, 4, 5, 6};
+    for (int64_t b = 1; b <= ApuestasMaximas; ++b) {
+        for (size_t r = 0; r < 6; ++r) tabla(static_cast<int>(r) + 1, b) = a[r];
+        tabla(7, b) = static_cast<uint8_t>(b % 10);
+        size_t r = 6;
+        while (r > 0 && a[r - 1] == 43 + r) --r;
+        if (r == 0) break;
+        std::iota(a.begin() + static_cast<std::ptrdiff_t>(r) - 1, a.end(), static_cast<uint8_t>(a[r - 1] + 1));
+    }
+    return tabla;
+}
+
+// dd if=origen of=destino bs=1M, with conv=fsync where there is a destination on the disk.
+void Copiar(const std::string& origen, const std::string& destino) {
+    const std::unique_ptr<char[]> bloque(new char[1 << 20]);
+    const int entrada = open(origen.c_str(), O_RDONLY);
+    const int salida = open(destino.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
+    for (ssize_t n; (n = read(entrada, bloque.get(), 1 << 20)) > 0;)
+        if (write(salida, bloque.get(), static_cast<size_t>(n)) != n) std::perror("write");
+    if (destino != "/dev/null") fsync(salida);
+    close(entrada);
+    close(salida);
+}
+
+double Segundos(const std::function<void()>& que) {
+    const auto antes = std::chrono::steady_clock::now();
+    que();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - antes).count();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) return std::fputs("ficheros FOLDER\n", stderr), 2;
+    const std::string ruta = std::string(argv[1]) + "/ficheros-bench.TOM", copia = ruta + ".copia";
+    const Tabla boleto = TodoElBoleto();
+    Entorno entorno;
+    Tabla leida;
+    bool bien = true;
+    const std::vector<std::pair<const char*, std::function<void()>>> medidas{
+        {"write", [&] { bien &= GuardarFicheroApuestas(ruta, "0", ApuestasMaximas, boleto, nullptr, entorno); }},
+        {"dd conv=fsync", [&] { Copiar(ruta, copia); }},
+        {"read, fresh table",
+         [&] {
+             leida.Vaciar();
+             bien &= LeerFicheroApuestas(ruta, leida, nullptr, Juegos[PRIMITIVA], entorno) == ApuestasMaximas;
+         }},
+        {"dd to /dev/null", [&] { Copiar(ruta, "/dev/null"); }},
+    };
+    std::vector<std::vector<double>> tiempos(medidas.size());
+    for (int vuelta = 0; vuelta < Vueltas; ++vuelta)
+        for (size_t m = 0; m < medidas.size(); ++m) {
+            unlink(copia.c_str());
+            tiempos[m].push_back(Segundos(medidas[m].second));
+        }
+    bien &= leida == boleto;
+    unlink(ruta.c_str());
+    std::vector<double> medianas;
+    for (size_t m = 0; m < medidas.size(); ++m) {
+        std::nth_element(tiempos[m].begin(), tiempos[m].begin() + Vueltas / 2, tiempos[m].end());
+        medianas.push_back(tiempos[m][Vueltas / 2]);
+        std::printf("%-18s %.3f s\n", medidas[m].first, medianas[m]);
+    }
+    std::printf("write / dd %.2f   read / dd %.2f   %s\n", medianas[0] / medianas[1], medianas[2] / medianas[3],
+                bien ? "same table" : "DIFFERENT");
+    return bien ? 0 : 1;
+}

@@ -17,6 +17,22 @@ namespace {
 
 constexpr uint32_t TurnosPorReloj = 64;
 
+// How many cells of rows 1 to 6 hold each value. Neighbours often hold the same one, hence the tables in
+// turn: an increment need not wait for the one before.
+std::array<int64_t, 256> ContarCeldas(const Tabla& tabla) {
+    std::array<std::array<int32_t, 256>, 4> parcial;
+    std::array<int64_t, 256> cuenta{};
+    const int64_t n = tabla.Apuestas();
+    for (int r = 1; r <= 6; ++r) {
+        parcial = {};
+        const uint8_t* fila = tabla.Fila(r);
+        for (int64_t i = 0; i < n; ++i) ++parcial[i % 4][fila[i]];
+        for (const auto& tanda : parcial)
+            for (size_t x = 0; x < cuenta.size(); ++x) cuenta[x] += tanda[x];
+    }
+    return cuenta;
+}
+
 } // namespace
 
 void LogicaVentanaProceso::Activar() {
@@ -204,30 +220,31 @@ void LogicaVentanaProceso::MostrarReducidas(int32_t apuestas) {
     lblApuestasVP = FormatoMiles(apuestas, entorno.SeparadorMiles);
 }
 
+// Every number stands in as many bets of a complete system.
 void LogicaVentanaProceso::PorcentajesAntes() {
+    const EstadoTrabajo& trabajo = sesion.trabajo;
+    const int n = trabajo.NumerosBase;
+    std::array<int64_t, 256> cuenta{}, porNumero{};
+    if (trabajo.SinEliminadas)
+        std::fill_n(cuenta.begin() + 1, n, Combinaciones(static_cast<int16_t>(n - 1), 5));
+    else
+        cuenta = ContarCeldas(trabajo.ApuestasCondicionadas);
+    for (int p = 1; p <= n; ++p) porNumero[trabajo.BaseNumeros[p]] = cuenta[p];
     fraPorcentajes = "Porcentajes ANTES de reducir";
-    Porcentajes(sesion.trabajo.ApuestasCondicionadas, true);
+    Porcentajes(porNumero, trabajo.ApuestasCondicionadas.Apuestas());
 }
 
 void LogicaVentanaProceso::PorcentajesDespues() {
     const Contadores& contador = sesion.trabajo.Contador;
     if (contador.Reducidas == 0 || contador.Reducidas == contador.Condicionadas) return;
     fraPorcentajes = "Porcentajes DESPUES de reducir";
-    Porcentajes(sesion.trabajo.ApuestasReducidas, false);
+    Porcentajes(ContarCeldas(sesion.trabajo.ApuestasReducidas), sesion.trabajo.ApuestasReducidas.Apuestas());
 }
 
-void LogicaVentanaProceso::Porcentajes(const Tabla& tabla, bool posiciones) {
-    std::array<int64_t, 256> cuenta{};
-    for (int r = 1; r <= 6; ++r)
-        std::for_each_n(tabla.Fila(r), tabla.Apuestas(), [&](uint8_t celda) { ++cuenta[celda]; });
-    std::array<int64_t, 256> porNumero = cuenta;
-    if (posiciones) {
-        porNumero.fill(0);
-        for (int p = 1; p <= sesion.trabajo.NumerosBase; ++p) porNumero[sesion.trabajo.BaseNumeros[p]] = cuenta[p];
-    }
+void LogicaVentanaProceso::Porcentajes(const std::array<int64_t, 256>& porNumero, int64_t apuestas) {
     for (int x = 1; x <= NumeroMaximoBoleto; ++x) {
+        const double porcentaje = static_cast<double>(porNumero[x]) * 100 / static_cast<double>(apuestas);
         lblNConApuestas[x] = porNumero[x] > 0;
-        const double porcentaje = static_cast<double>(porNumero[x]) * 100 / static_cast<double>(tabla.Apuestas());
         lblN[x] = x > sesion.trabajo.NumeroMaximo() ? ""
                   : porNumero[x] == 0               ? "0 %"
                                                     : std::to_string(static_cast<int>(RedondearPar(porcentaje))) + "%";

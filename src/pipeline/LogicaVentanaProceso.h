@@ -104,7 +104,7 @@ struct LogicaVentanaProceso {
     void ReconstruirTablas();
     void TomarAjustes();
     void ElegirRuta();
-    void Porcentajes(const Tabla& tabla, bool posiciones);
+    void Porcentajes(const std::array<int64_t, 256>& porNumero, int64_t apuestas);
     void Habilitar(bool corriendo);
 
     std::vector<int32_t> orden_;

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "FilaAl5.h"
 #include "Guion.h"
 #include "ReduccionLiteral.h"
 #include "modGeneral.h"
@@ -202,4 +203,30 @@ TEST(Reduccion, ElCambioDeRutaYDeTablas) {
             caso.TipoReduccion = tipo;
             Comparar(caso);
         }
+}
+
+// Rows longer than one vector, walked by rows.
+TEST(Reduccion, UnSistemaFiltradoDenso) {
+    Dado dado(5);
+    ReduccionLiteral caso;
+    caso.n = 24;
+    caso.apuestas = Filtrar(Expandir(24), 6500, dado);
+    caso.TipoReduccion = 1;
+    Comparar(caso);
+}
+
+TEST(FilaAl5, ElNucleoDaLoMismoQueElBucle) {
+    Dado dado(6);
+    for (int vuelta = 0; vuelta < 3000; ++vuelta) {
+        std::array<std::array<uint8_t, 64>, 6> datos;
+        for (auto& fila : datos)
+            for (uint8_t& x : fila) x = static_cast<uint8_t>(Tirar(dado, 1, vuelta % 3 == 0 ? 3 : 44));
+        constexpr uint8_t Estados[] = {0, 5, 128};
+        for (uint8_t& x : datos[5]) x = Estados[Tirar(dado, 0, vuelta % 5 == 0 ? 0 : 2)];
+        FilaAl5 fila{{}, datos[5].data(), Tirar(dado, 1, 44)};
+        for (size_t k = 0; k < 5; ++k) fila.sin[k] = datos[k].data();
+        const MejorDeFila una = MejorDeFilaAl5(fila), otra = MejorDeFilaEscalar(fila);
+        ASSERT_EQ(una.ganancia, otra.ganancia);
+        ASSERT_EQ(una.indice, otra.indice);
+    }
 }

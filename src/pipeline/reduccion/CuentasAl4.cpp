@@ -1,7 +1,6 @@
 #include "CuentasAl4.h"
 
 #include <algorithm>
-#include <bit>
 #include <cassert>
 
 CuentasAl4::CuentasAl4(const Conjunto& conjunto)
@@ -28,6 +27,13 @@ uint32_t Mascara(const Seis& p) {
     uint32_t m = 0;
     for (const uint8_t x : p) m |= uint32_t{1} << x;
     return m;
+}
+
+// Whether at least four bits are set.
+bool CuatroOMas(uint32_t m) {
+    m &= m - 1;
+    m &= m - 1;
+    return (m & (m - 1)) != 0;
 }
 
 } // namespace
@@ -58,21 +64,21 @@ void CuentasAl4::Reponer() {
     std::fill(sinCubrir_.begin(), sinCubrir_.end(), uint8_t{1});
 }
 
-uint16_t CuentasAl4::Ganancia(int32_t i, const Seis&) const {
+int CuentasAl4::Ganancia(int32_t i) const {
     const Lugares& l = lugares_[i];
     const uint8_t* c4 = cuenta4_.data();
     const uint8_t* c5 = cuenta5_.data();
     int suma4 = 0, suma5 = 0;
     for (int k = 0; k < 15; ++k) suma4 += c4[l[k]];
     for (int k = 15; k < 21; ++k) suma5 += c5[l[k]];
-    return static_cast<uint16_t>(suma4 - 4 * suma5 + 10 * sinCubrir_[i]);
+    return suma4 - 4 * suma5 + 10 * sinCubrir_[i];
 }
 
-void CuentasAl4::Cubrir(int32_t, const Seis& p) {
-    const uint32_t mascara = Mascara(p);
+void CuentasAl4::Cubrir(int32_t i) {
+    const uint32_t mascara = Mascara(conjunto_.Apuesta(i));
     size_t n = 0;
     for (const Descubierta& d : quedan_) {
-        if (std::popcount(d.mascara & mascara) < 4) {
+        if (!CuatroOMas(d.mascara & mascara)) {
             quedan_[n++] = d;
             continue;
         }

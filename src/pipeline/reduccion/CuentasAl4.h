@@ -17,8 +17,8 @@ class CuentasAl4 {
 
     bool Contar(const std::function<bool(int32_t)>& turno);
     void Reponer();
-    uint16_t Ganancia(int32_t i, const Seis& p) const;
-    void Cubrir(int32_t i, const Seis& p);
+    int Ganancia(int32_t i) const;
+    void Cubrir(int32_t i);
 
   private:
     // Places of the 4-subsets, then of the 5-subsets; both fit 16 bits up to 22 numbers.

@@ -27,11 +27,12 @@ void CuentasAl5::Reponer() {
     for (uint8_t& e : estado_) e = e == Ausente ? Ausente : Descubierta;
 }
 
-uint16_t CuentasAl5::Ganancia(int32_t i, const Seis& p) const {
+int CuentasAl5::Ganancia(int32_t i) const {
+    const Seis p = conjunto_.Apuesta(i);
     int suma = 0;
     for (const int32_t s : LugaresSinUno(r5_, p)) suma += cuenta_[s];
     const int32_t lugar = conjunto_.Completo() ? i : r6_.Lugar(p.data());
-    return static_cast<uint16_t>(suma - (estado_[lugar] == Descubierta ? 5 : 0));
+    return suma - (estado_[lugar] == Descubierta ? 5 : 0);
 }
 
 void CuentasAl5::CubrirUna(Seis q, int32_t lugar) {
@@ -41,7 +42,7 @@ void CuentasAl5::CubrirUna(Seis q, int32_t lugar) {
 
 // With element `fuera` left out, x walks over all other positions of the base and takes the place j
 // that keeps the bet ascending; each step to the next place moves one element down.
-void CuentasAl5::Cubrir(int32_t, const Seis& p) {
+void CuentasAl5::Cubrir(const Seis& p) {
     const std::array<int32_t, 6> subconjunto = LugaresSinUno(r5_, p);
     for (int fuera = 0; fuera < 6; ++fuera) {
         if (cuenta_[subconjunto[fuera]] == 0) continue;

@@ -22,11 +22,12 @@ class CuentasAl5 {
     /// All bets uncovered again.
     void Reponer();
 
-    /// Gain of bet i with these positions.
-    uint16_t Ganancia(int32_t i, const Seis& p) const;
+    /// Gain of bet i.
+    int Ganancia(int32_t i) const;
 
-    /// Takes out what the bet covers.
-    void Cubrir(int32_t i, const Seis& p);
+    /// Takes out what bet i, or the bet of these positions, covers.
+    void Cubrir(int32_t i) { Cubrir(conjunto_.Apuesta(i)); }
+    void Cubrir(const Seis& p);
 
     const Rangos& Rangos5() const { return r5_; }
     const Rangos& Rangos6() const { return r6_; }

@@ -44,21 +44,18 @@ class EleccionPorApuestas {
         orden_ = orden;
         cuentas_.Reponer();
         if (inicial_.empty()) {
-            inicial_.assign(conjunto_.Apuestas(), cuentas_.Ganancia(0, conjunto_.Apuesta(0)));
+            inicial_.assign(conjunto_.Apuestas(), static_cast<uint16_t>(cuentas_.Ganancia(0)));
             for (int32_t i = 1; i < conjunto_.Apuestas() && !conjunto_.Completo(); ++i)
-                inicial_[i] = cuentas_.Ganancia(i, conjunto_.Apuesta(i));
+                inicial_[i] = static_cast<uint16_t>(cuentas_.Ganancia(i));
         }
         cotas_.Comenzar(conjunto_.Apuestas(), [&](int32_t i) { return inicial_[Visitada(i)]; });
     }
 
     int32_t Elegir() {
-        const int32_t lugar = cotas_.Siguiente([&](int32_t i) {
-            const int32_t j = Visitada(i);
-            return cuentas_.Ganancia(j, conjunto_.Apuesta(j));
-        });
+        const int32_t lugar = cotas_.Siguiente([&](int32_t i) { return cuentas_.Ganancia(Visitada(i)); });
         if (lugar < 0) return -1;
         const int32_t j = Visitada(lugar);
-        cuentas_.Cubrir(j, conjunto_.Apuesta(j));
+        cuentas_.Cubrir(j);
         return j;
     }
 

@@ -33,12 +33,12 @@ EleccionPorFilas::EleccionPorFilas(const Conjunto& conjunto, CuentasAl5& cuentas
 void EleccionPorFilas::Comenzar() {
     cuentas_.Reponer();
     const int n = conjunto_.n();
-    const auto tope = static_cast<uint16_t>(1 + 6 * (n - 6));
+    const int tope = 1 + 6 * (n - 6);
     cotas_.Comenzar(static_cast<int32_t>(prefijo_.size()),
-                    [&](int32_t fila) { return prefijo_[fila][4] == n ? uint16_t{0} : tope; });
+                    [&](int32_t fila) { return prefijo_[fila][4] == n ? 0 : tope; });
 }
 
-uint16_t EleccionPorFilas::EvaluarFila(int32_t fila) {
+int EleccionPorFilas::EvaluarFila(int32_t fila) {
     const Prefijo& p = prefijo_[fila];
     const Rangos& r5 = cuentas_.Rangos5();
     const int n = conjunto_.n(), primera = p[4] + 1;
@@ -58,7 +58,7 @@ uint16_t EleccionPorFilas::EvaluarFila(int32_t fila) {
 
     const MejorDeFila mejor = MejorDeFilaAl5(apuestas);
     ultima_ = primera + mejor.indice;
-    return static_cast<uint16_t>(mejor.ganancia < 0 ? 0 : mejor.ganancia + cuentas_.Cuenta()[fila]);
+    return mejor.ganancia < 0 ? 0 : mejor.ganancia + cuentas_.Cuenta()[fila];
 }
 
 int32_t EleccionPorFilas::IndiceDe(int32_t lugar) const {
@@ -75,7 +75,6 @@ int32_t EleccionPorFilas::Elegir() {
     if (fila < 0) return -1;
     const Prefijo& p = prefijo_[fila];
     const Seis apuesta{p[0], p[1], p[2], p[3], p[4], static_cast<uint8_t>(ultima_)};
-    const int32_t i = IndiceDe(cuentas_.Rangos6().Lugar(apuesta.data()));
-    cuentas_.Cubrir(i, apuesta);
-    return i;
+    cuentas_.Cubrir(apuesta);
+    return IndiceDe(cuentas_.Rangos6().Lugar(apuesta.data()));
 }

@@ -21,7 +21,7 @@ class EleccionPorFilas {
   private:
     using Prefijo = std::array<uint8_t, 5>;
 
-    uint16_t EvaluarFila(int32_t fila);
+    int EvaluarFila(int32_t fila);
     int32_t IndiceDe(int32_t lugar) const;
 
     const Conjunto& conjunto_;

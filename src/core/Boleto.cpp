@@ -19,17 +19,22 @@ void PulsarSerie(EstadoTrabajo& trabajo, int decide, int primero, int paso, int 
     ActualizarContadores(trabajo);
 }
 
+// An imported base holds whatever numbers its file has, also those that the game's ticket lacks.
+int UltimoNumero(const EstadoTrabajo& trabajo) {
+    return trabajo.cboTipoCombinacion == PronosticoDesdeArchivo ? NumeroMaximoBoleto : trabajo.NumeroMaximo();
+}
+
 } // namespace
 
 int16_t ContarBase(const EstadoTrabajo& trabajo) {
     const auto desde = trabajo.lblNumero.begin() + 1;
-    return static_cast<int16_t>(std::count(desde, desde + trabajo.NumeroMaximo(), true));
+    return static_cast<int16_t>(std::count(desde, desde + UltimoNumero(trabajo), true));
 }
 
 void LeerBase(EstadoTrabajo& trabajo) {
     trabajo.NumerosBase = 0;
     trabajo.BaseNumeros.fill(0);
-    for (int n = 1; n <= trabajo.NumeroMaximo(); ++n)
+    for (int n = 1; n <= UltimoNumero(trabajo); ++n)
         if (trabajo.lblNumero[static_cast<size_t>(n)])
             trabajo.BaseNumeros[static_cast<size_t>(++trabajo.NumerosBase)] = static_cast<uint8_t>(n);
 }

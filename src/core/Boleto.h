@@ -4,7 +4,8 @@
 #include "Entorno.h"
 #include "EstadoTrabajo.h"
 
-/// Marked numbers among 1 to `NumeroMaximo`; higher ones do not count even if marked.
+/// Marked numbers among 1 to `NumeroMaximo`; higher ones do not count even if marked, but in a base
+/// imported from a file.
 int16_t ContarBase(const EstadoTrabajo& trabajo);
 
 /// Rebuilds `NumerosBase` and `BaseNumeros` from the marks.

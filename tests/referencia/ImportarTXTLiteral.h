@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "Guion.h"
+using ApuestaLiteral = std::vector<int>;
 
 struct ImportacionLiteral {
-    std::vector<Apuesta> Apuestas; ///< of seven elements, none after a failure
+    std::vector<ApuestaLiteral> Apuestas; ///< of seven elements, none after a failure
     bool Fallo = false;
     std::string Detalle; ///< empty after a failure that no test raised
 };
@@ -30,7 +30,7 @@ class ImportarTXTLiteral {
                                                                                                                 : ',';
             for (const std::string& linea : lineas) {
                 contador_ = hecha.Apuestas.size() + 1;
-                Apuesta apuesta = separador_ == '\0' ? Fija(linea) : Separada(linea);
+                ApuestaLiteral apuesta = separador_ == '\0' ? Fija(linea) : Separada(linea);
                 if (apuesta.empty()) continue;
                 if (hecha.Apuestas.size() == caben) throw std::out_of_range("subscript");
                 hecha.Apuestas.push_back(apuesta);
@@ -89,10 +89,10 @@ class ImportarTXTLiteral {
             Exigir(n >= 1 && n <= 5, "Apuestas con sueños fuera del intervalo 1-5");
     }
 
-    Apuesta Fija(std::string linea) {
+    ApuestaLiteral Fija(std::string linea) {
         std::erase_if(linea, [](char c) { return std::string("*-,+ ").find(c) != std::string::npos; });
         if (linea.size() < 12) return {};
-        Apuesta apuesta(7);
+        ApuestaLiteral apuesta(7);
         int anterior = 0;
         for (size_t i = 1; i <= 6; ++i) {
             apuesta[i - 1] = Numero(linea.substr(2 * i - 2, 2));
@@ -105,7 +105,7 @@ class ImportarTXTLiteral {
         return apuesta;
     }
 
-    Apuesta Separada(std::string linea) {
+    ApuestaLiteral Separada(std::string linea) {
         if (linea.size() < 12) return {};
         std::replace(linea.begin(), linea.end(), '+', con_ ? ',' : separador_);
         std::vector<std::string> campos(1);
@@ -115,7 +115,7 @@ class ImportarTXTLiteral {
             else
                 campos.back() += c;
         std::erase(campos, "");
-        Apuesta apuesta(7);
+        ApuestaLiteral apuesta(7);
         int anterior = 0;
         for (size_t i = 0; i < 6; ++i) {
             apuesta[i] = Numero(campos.at(i));

@@ -10,8 +10,11 @@
 #include <QTreeWidget>
 #include <QUrl>
 
+#include "DialogosFiltro.h"
 #include "TextoQt.h"
 #include "VistaFiltros.h"
+#include "frmAcercaDe.h"
+#include "frmAlazar.h"
 #include "tema.h"
 
 namespace {
@@ -97,10 +100,7 @@ QWidget* frmPrincipal::CrearJuego() {
     fila->addWidget(franja);
     fila->addLayout(listas, 1);
     connect(cboTipoJuego, &QComboBox::activated, this, [this](int i) { logica.CambiarJuego(i), Pintar(); });
-    connect(cboTipoCombinacion, &QComboBox::activated, this, [this](int i) {
-        logica.CambiarTipoCombinacion(i);
-        Pintar();
-    });
+    connect(cboTipoCombinacion, &QComboBox::activated, this, [this](int i) { CambiarTipoCombinacion(i); });
     return picBanner2;
 }
 
@@ -237,9 +237,24 @@ void frmPrincipal::Hacer(Orden orden) {
     Pintar();
 }
 
-void frmPrincipal::AbrirVentana(Orden) {}
+void frmPrincipal::AbrirVentana(Orden orden) {
+    if (orden == Orden::AcercaDe) {
+        frmAcercaDe acercaDe(this);
+        MostrarModal(acercaDe);
+    }
+}
 
-void frmPrincipal::AbrirFila(int) {
+void frmPrincipal::AbrirFila(int k) {
+    if (!logica.Bloqueada()) AbrirDialogoFiltro(k, logica.sesion, logica.entorno, this);
+    Pintar();
+}
+
+void frmPrincipal::CambiarTipoCombinacion(int indice) {
+    if (logica.CambiarTipoCombinacion(indice)) {
+        Pintar();
+        frmAlazar alazar(logica.sesion.trabajo, this);
+        MostrarModal(alazar);
+    }
     Pintar();
 }
 

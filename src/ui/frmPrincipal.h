@@ -38,6 +38,7 @@ class frmPrincipal final : public QMainWindow {
     void Hacer(Orden orden);
     void AbrirVentana(Orden orden);
     void AbrirFila(int k);
+    void CambiarTipoCombinacion(int indice);
 
     LogicaPrincipal logica;
     BarraOrdenes barra;

@@ -37,11 +37,14 @@ T* Hijo(const QWidget& padre, const std::string& nombre) {
 }
 
 /// Runs `accion` on the next modal dialog to open and closes the dialog if it is still open after it.
-/// To be called before what opens it.
-inline void EnModal(std::function<void(QDialog&)> accion) {
-    QTimer::singleShot(0, qApp, [accion = std::move(accion)] {
+/// To be called before what opens it; fails if none opens within two seconds.
+inline void EnModal(std::function<void(QDialog&)> accion, int intentos = 400) {
+    QTimer::singleShot(5, qApp, [accion = std::move(accion), intentos] {
         auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialogo, nullptr) << "no modal dialog is open";
+        if (dialogo == nullptr) {
+            ASSERT_GT(intentos, 0) << "no modal dialog has opened";
+            return EnModal(accion, intentos - 1);
+        }
         try {
             accion(*dialogo);
         } catch (const std::exception& error) {

@@ -4,10 +4,12 @@
 
 #include "Boleto.h"
 #include "CalcularSistema.h"
+#include "ComandosFichero.h"
 #include "GuardarCombinacion.h"
 #include "NumerosTexto.h"
 #include "Sesiones.h"
 #include "modGeneral.h"
+#include "modXML.h"
 
 namespace {
 
@@ -31,8 +33,17 @@ void LogicaPrincipal::Hacer(Orden orden) {
     switch (orden) {
     case Orden::Nuevo:
         return Nuevo();
+    case Orden::Abrir:
+        if (PuedeDescartar()) AbrirBaseXML(sesion, entorno);
+        return;
     case Orden::Guardar:
         GuardarBaseXML(sesion, entorno);
+        return;
+    case Orden::VerApuestas:
+        VerApuestas(sesion, entorno);
+        return;
+    case Orden::ValidarOnLine:
+        ValidarOnLine(sesion, entorno);
         return;
     case Orden::AyudaOnline:
         return AyudaOnline();
@@ -79,7 +90,9 @@ void LogicaPrincipal::AyudaOnline() {
         Fallo(entorno, "ERROR: FICHERO DE AYUDA NO ENCONTRADO O ERRONEO");
 }
 
-void LogicaPrincipal::Soltar(const std::string&) {}
+void LogicaPrincipal::Soltar(const std::string& ruta) {
+    if (!Bloqueada() && !ruta.empty() && PuedeDescartar()) AbrirFicheroBase(ruta, sesion, entorno);
+}
 
 void LogicaPrincipal::CambiarJuego(int juego) {
     if (Bloqueada() || juego < 0 || juego >= static_cast<int>(Juegos.size())) return;

@@ -42,9 +42,13 @@ const std::array<EntradaBarra, 7> lblMenu{{
 bool OrdenDisponible(Orden orden) {
     switch (orden) {
     case Orden::Nuevo:
+    case Orden::Abrir:
     case Orden::Guardar:
     case Orden::Salir:
+    case Orden::VerApuestas:
     case Orden::AyudaOnline:
+    case Orden::AcercaDe:
+    case Orden::ValidarOnLine:
     case Orden::CalculoPrueba:
     case Orden::CalculoDefinitivo:
         return true;

@@ -1,6 +1,7 @@
 #include "BarraOrdenes.h"
 
 #include <QMenuBar>
+#include <QShortcut>
 #include <QToolBar>
 
 #include "TextoQt.h"
@@ -35,11 +36,15 @@ QToolButton* CrearBoton(QMainWindow* ventana, size_t indice, const std::function
     boton->setIconSize(QSize(24, 24));
     boton->setAutoRaise(true);
     boton->setFocusPolicy(Qt::TabFocus);
-    boton->setShortcut(QKeySequence(Q(entrada.Atajo)));
     QString consejo = Q(entrada.Consejo);
     if (!entrada.Atajo.empty()) consejo += Q(" (") + Q(entrada.Atajo) + Q(")");
     boton->setToolTip(OrdenDisponible(entrada.orden) ? consejo : consejo + Q(": todavía no está disponible"));
     QObject::connect(boton, &QToolButton::clicked, ventana, [hacer, orden = entrada.orden] { hacer(orden); });
+    if (!entrada.Atajo.empty()) {
+        // The button's own shortcut would wait to show it pressed.
+        auto* atajo = new QShortcut(QKeySequence(Q(entrada.Atajo)), ventana);
+        QObject::connect(atajo, &QShortcut::activated, boton, [boton] { boton->click(); });
+    }
     return boton;
 }
 

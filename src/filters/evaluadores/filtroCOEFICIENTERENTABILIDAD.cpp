@@ -17,11 +17,11 @@ double Factor(double porcentaje) {
 }
 
 // How much the rounding to 14 decimals can move the binary logarithm of the smallest product of six.
-double ErrorPorRedondeo(const std::array<double, 64>& porcentajes, size_t numeros) {
-    std::vector<double> factores;
-    for (size_t p = 1; p <= numeros; ++p) factores.push_back(Factor(porcentajes[p]));
-    std::sort(factores.begin(), factores.end());
-    const double menor = std::accumulate(factores.begin(), factores.begin() + 6, 1.0, std::multiplies<>());
+double ErrorPorRedondeo(const PorPosicionDoble& factores, size_t numeros) {
+    const auto inicio = factores.begin() + 1;
+    std::vector<double> orden(inicio, inicio + static_cast<std::ptrdiff_t>(numeros));
+    std::sort(orden.begin(), orden.end());
+    const double menor = std::accumulate(orden.begin(), orden.begin() + 6, 1.0, std::multiplies<>());
     const double relativo = 0.5e-14 / menor + 1e-14;
     return relativo < 0.1 ? -std::log2(1 - relativo) : std::numeric_limits<double>::infinity();
 }
@@ -42,7 +42,7 @@ struct Escala {
     Escala(const TablasCoeficiente& tablas, size_t numeros) {
         std::vector<double> logaritmos;
         for (size_t p = 1; p <= numeros; ++p)
-            logaritmos.push_back(std::log2(Factor(tablas.Real[p])) - std::log2(Factor(tablas.Apostado[p])));
+            logaritmos.push_back(std::log2(tablas.FactorReal[p]) - std::log2(tablas.FactorApostado[p]));
         std::vector<double> orden = logaritmos;
         std::sort(orden.begin(), orden.end());
         origen = orden.front();
@@ -63,9 +63,9 @@ struct Escala {
 };
 
 // Decides the sums whose whole uncertainty lies in classes that all pass, or all fail.
-std::vector<uint8_t> DecidirSumas(const Escala& escala, double error, const std::array<uint8_t, Clases>& clasePasa) {
+std::vector<uint8_t> DecidirSumas(const Escala& escala, double error, const std::array<uint8_t, Clases + 1>& porClase) {
     std::array<size_t, Clases + 1> pasanAntes{};
-    for (size_t c = 0; c < Clases; ++c) pasanAntes[c + 1] = pasanAntes[c] + clasePasa[c];
+    for (size_t c = 0; c < Clases; ++c) pasanAntes[c + 1] = pasanAntes[c] + porClase[c];
     const auto bordes = BordesDeClases();
     std::vector<uint8_t> veredicto(65536, TablasCoeficiente::Duda);
     size_t desde = 0, hasta = 0;
@@ -86,9 +86,9 @@ void PrepararSumas(TablasCoeficiente& tablas, size_t numeros) {
     if (numeros < 6 || !tablas.Moderados) return;
     const Escala escala(tablas, numeros);
     for (size_t p = 1; p <= numeros; ++p) tablas.Logaritmo.Poner(p, escala.valor[p - 1]);
-    const double error =
-        escala.Error() + ErrorPorRedondeo(tablas.Apostado, numeros) + ErrorPorRedondeo(tablas.Real, numeros) + 1e-9;
-    tablas.PorSuma = DecidirSumas(escala, error, tablas.ClasePasa);
+    const double error = escala.Error() + ErrorPorRedondeo(tablas.FactorApostado, numeros) +
+                         ErrorPorRedondeo(tablas.FactorReal, numeros) + 1e-9;
+    tablas.PorSuma = DecidirSumas(escala, error, tablas.PorClase);
 }
 
 bool EsModerado(double porcentaje) {
@@ -101,9 +101,12 @@ TablasCoeficiente Preparar(const EstadoTrabajo& trabajo, const RegistroCOEFICIEN
     for (size_t p = 1; p <= numeros; ++p) {
         tablas.Apostado[p] = registro.PorcentajesApostados[trabajo.BaseNumeros[p]];
         tablas.Real[p] = registro.PorcentajesReales[trabajo.BaseNumeros[p]];
+        tablas.FactorApostado[p] = Factor(tablas.Apostado[p]);
+        tablas.FactorReal[p] = Factor(tablas.Real[p]);
         if (!EsModerado(tablas.Apostado[p]) || !EsModerado(tablas.Real[p])) tablas.Moderados = false;
     }
-    for (size_t c = 0; c < Clases; ++c) tablas.ClasePasa[c] = registro.RangosCR[c] == 1;
+    for (size_t c = 0; c < Clases; ++c) tablas.PorClase[c] = registro.RangosCR[c] == 1;
+    tablas.PorClase[Clases] = TablasCoeficiente::Duda;
     PrepararSumas(tablas, numeros);
     return tablas;
 }

@@ -26,117 +26,91 @@ int32_t Coeficiente(const Tramo& tramo, const TablasCoeficiente& t) {
 using Dobles = hn::ScalableTag<double>;
 using VD = hn::Vec<Dobles>;
 inline constexpr Dobles dd;
+inline constexpr hn::RebindToSigned<Dobles> di;
+constexpr size_t AnchoDobles = hn::MaxLanes(dd);
 
-// Division by a constant as correctly rounded as a true one: `inversa` is the double nearest to
-// 1 / divisor, so the first quotient is off by less than one unit and the fused remainder corrects it.
-HWY_INLINE VD Dividir(VD x, double divisor, double inversa) {
-    const VD y = hn::Set(dd, inversa);
-    const VD cociente = hn::Mul(x, y);
-    return hn::MulAdd(hn::NegMulAdd(cociente, hn::Set(dd, divisor), x), y, cociente);
+// The whole numbers nearest to some values, and whether the values are so far from the middle of two
+// that the small error they carry cannot have decided.
+struct Redondeo {
+    VD entero, duda;
+    HWY_INLINE explicit Redondeo(VD x) : entero(hn::Round(x)) {
+        duda = hn::VecFromMask(dd, hn::Gt(hn::Abs(hn::Sub(x, entero)), hn::Set(dd, 0.4999)));
+    }
+};
+
+// The products of the factors of consecutive bets in units of the 14th decimal. In doubles their
+// relative error stays below 1e-14; from 1e10 units on a unit more or less is of no account either.
+HWY_INLINE Redondeo Probabilidad(const hn::VFromD<decltype(di)> (&posiciones)[6], const PorPosicionDoble& factores) {
+    VD producto = hn::Set(dd, 1e14);
+    for (const auto& posicion : posiciones)
+        producto = hn::Mul(producto, hn::GatherIndex(dd, factores.data(), posicion));
+    Redondeo unidades(producto);
+    unidades.duda = hn::IfThenZeroElse(hn::Ge(producto, hn::Set(dd, 1e10)), unidades.duda);
+    return unidades;
 }
 
-// The percentages of a handful of bets, a row for each of the six numbers.
-struct Porcentajes {
-    HWY_ALIGN double fila[6][HWY_MAX_BYTES / sizeof(double)];
-
-    HWY_INLINE VD Probabilidad() const {
-        VD producto = hn::Set(dd, 1.0);
-        for (const auto& p : fila) {
-            const VD factor = hn::Load(dd, p);
-            const VD siguiente = Dividir(hn::Mul(producto, factor), 100, 0.01);
-            producto = hn::IfThenElse(hn::Gt(factor, hn::Zero(dd)), siguiente, producto);
-        }
-        return Dividir(hn::Round(hn::Mul(producto, hn::Set(dd, 1e14))), 1e14, 1e-14);
+// Decides as many bets as a vector of doubles holds, from `i` on. The few that stay in doubt are left
+// so.
+HWY_INLINE void DecidirConDobles(const Tramo& tramo, int64_t i, const TablasCoeficiente& tablas, uint8_t* veredicto) {
+    const hn::Rebind<uint8_t, Dobles> d8;
+    const hn::Rebind<int32_t, Dobles> d32;
+    hn::VFromD<decltype(di)> posiciones[6];
+    for (int r = 0; r < 6; ++r) {
+        const auto bytes = hn::And(hn::LoadU(d8, tramo.fila[r] + i), hn::Set(d8, 63));
+        posiciones[r] = hn::PromoteTo(di, hn::PromoteTo(d32, bytes));
     }
-};
-
-// The bets that the logarithms left open.
-class Dudosas {
-  public:
-    Dudosas(const Tramo& tramo, const TablasCoeficiente& tablas) : tramo_(tramo), tablas_(tablas) {}
-
-    /// Room for one more block of bets, for which those listed may have to be resolved first.
-    void HacerSitio() {
-        if (cuantas_ >= Lote) Resolver();
-    }
-    void Anadir(int64_t i) {
-        if (tramo_.eliminada[i] == 0) lista_[cuantas_++] = i;
-    }
-
-    /// Marks those listed that fail; returns how many were marked since the start.
-    int32_t Resolver() {
-        size_t j = 0;
-#if HWY_NATIVE_FMA
-        if (tablas_.Moderados)
-            for (; j + hn::Lanes(dd) <= cuantas_; j += hn::Lanes(dd)) ResolverJuntas(lista_ + j);
-#endif
-        for (; j < cuantas_; ++j) Marcar(lista_[j], PasaExacta(tramo_, lista_[j], tablas_));
-        cuantas_ = 0;
-        return marcadas_;
-    }
-
-  private:
-    void ResolverJuntas(const int64_t* apuestas) {
-        Porcentajes apostados, reales;
-        for (size_t r = 0; r < 6; ++r)
-            for (size_t j = 0; j < hn::Lanes(dd); ++j) {
-                const size_t posicion = tramo_.fila[r][apuestas[j]] & 63u;
-                apostados.fila[r][j] = tablas_.Apostado[posicion];
-                reales.fila[r][j] = tablas_.Real[posicion];
-            }
-        const VD cociente = hn::Div(reales.Probabilidad(), apostados.Probabilidad());
-        const VD redondeado = Dividir(hn::Round(hn::Mul(cociente, hn::Set(dd, 10))), 10, 0.1);
-        const VD decimas = hn::Mul(redondeado, hn::Set(dd, 10));
-        const VD ultima = hn::Set(dd, 99);
-        HWY_ALIGN double clases[HWY_MAX_BYTES / sizeof(double)];
-        hn::Store(hn::IfThenElse(hn::Lt(decimas, ultima), hn::Round(decimas), ultima), dd, clases);
-        for (size_t j = 0; j < hn::Lanes(dd); ++j)
-            Marcar(apuestas[j], tablas_.ClasePasa[static_cast<size_t>(clases[j])] != 0);
-    }
-
-    void Marcar(int64_t i, bool pasa) {
-        tramo_.eliminada[i] = !pasa;
-        marcadas_ += !pasa;
-    }
-
-    const Tramo& tramo_;
-    const TablasCoeficiente& tablas_;
-    static constexpr size_t Lote = 64;
-    int64_t lista_[Lote + HWY_MAX_BYTES];
-    size_t cuantas_ = 0;
-    int32_t marcadas_ = 0;
-};
+    const Redondeo apostada = Probabilidad(posiciones, tablas.FactorApostado);
+    const Redondeo real = Probabilidad(posiciones, tablas.FactorReal);
+    const Redondeo decimas(hn::Mul(hn::Div(real.entero, apostada.entero), hn::Set(dd, 10)));
+    const VD ultima = hn::Set(dd, 99), dudosa = hn::Set(dd, 100);
+    // A product of 0 gives no number, or an infinite one; both belong to the last class.
+    const auto menor = hn::Lt(decimas.entero, ultima);
+    const VD duda = hn::Or(hn::Or(apostada.duda, real.duda), hn::IfThenElseZero(menor, decimas.duda));
+    HWY_ALIGN double clases[AnchoDobles];
+    hn::Store(hn::IfThenElse(hn::MaskFromVec(duda), dudosa, hn::IfThenElse(menor, decimas.entero, ultima)), dd, clases);
+    for (size_t j = 0; j < AnchoDobles; ++j) veredicto[j] = tablas.PorClase[static_cast<size_t>(clases[j])];
+}
 
 struct PruebaCoeficiente {
     SumaPalabras sumar;
-    const uint8_t* porSuma;
-    Dudosas& dudosas;
+    const TablasCoeficiente& tablas;
+    explicit PruebaCoeficiente(const TablasCoeficiente& t) : sumar(t.Logaritmo), tablas(t) {}
 
     HWY_INLINE V operator()(const Tramo& tramo, int64_t i) const {
         constexpr size_t palabras = hn::MaxLanes(d16);
         HWY_ALIGN uint16_t pares[palabras], impares[palabras];
         HWY_ALIGN uint8_t veredicto[2 * palabras];
-        dudosas.HacerSitio();
         const ParPalabras suma = sumar(tramo, i);
         hn::Store(suma.pares, d16, pares);
         hn::Store(suma.impares, d16, impares);
+        const uint8_t* porSuma = tablas.PorSuma.data();
         for (size_t j = 0; j < palabras; ++j) {
             veredicto[2 * j] = porSuma[pares[j]];
             veredicto[2 * j + 1] = porSuma[impares[j]];
         }
         const V v = hn::Load(d, veredicto);
-        if (!hn::AllFalse(d, hn::Eq(v, hn::Set(d, TablasCoeficiente::Duda))))
-            for (size_t j = 0; j < 2 * palabras; ++j)
-                if (veredicto[j] == TablasCoeficiente::Duda) dudosas.Anadir(i + static_cast<int64_t>(j));
-        return v;
+        if (hn::AllFalse(d, hn::Eq(v, hn::Set(d, TablasCoeficiente::Duda)))) return v;
+        for (size_t j = 0; j < 2 * palabras; j += AnchoDobles)
+            if (HayDudas(veredicto + j)) Decidir(tramo, i + static_cast<int64_t>(j), veredicto + j);
+        return hn::Load(d, veredicto);
+    }
+
+    static HWY_INLINE bool HayDudas(const uint8_t* veredicto) {
+        bool hay = false;
+        for (size_t j = 0; j < AnchoDobles; ++j) hay |= veredicto[j] == TablasCoeficiente::Duda;
+        return hay;
+    }
+
+    HWY_INLINE void Decidir(const Tramo& tramo, int64_t i, uint8_t* veredicto) const {
+        if (tablas.Moderados) DecidirConDobles(tramo, i, tablas, veredicto);
+        for (size_t j = 0; j < AnchoDobles; ++j)
+            if (veredicto[j] == TablasCoeficiente::Duda)
+                veredicto[j] = PasaExacta(tramo, i + static_cast<int64_t>(j), tablas);
     }
 };
 
 int32_t Coeficiente(const Tramo& tramo, const TablasCoeficiente& tablas) {
-    Dudosas dudosas(tramo, tablas);
-    const PruebaCoeficiente prueba{SumaPalabras(tablas.Logaritmo), tablas.PorSuma.data(), dudosas};
-    const int32_t marcadas = Recorrer(tramo, prueba);
-    return marcadas + dudosas.Resolver();
+    return Recorrer(tramo, PruebaCoeficiente(tablas));
 }
 
 #endif
@@ -161,7 +135,7 @@ bool PasaExacta(const Tramo& tramo, int64_t i, const TablasCoeficiente& tablas) 
         real[r] = tablas.Real[posicion];
     }
     const int clase = ClaseCR(ProbabilidadCR(apostado), ProbabilidadCR(real));
-    return tablas.ClasePasa[static_cast<size_t>(clase)] != 0;
+    return tablas.PorClase[static_cast<size_t>(clase)] == TablasCoeficiente::Pasa;
 }
 
 int32_t NucleoCoeficienteEscalar(const Tramo& tramo, const TablasCoeficiente& tablas) {

@@ -5,14 +5,18 @@
 
 #include "NucleosValores.h"
 
+using PorPosicionDoble = std::array<double, 64>;
+
 /// The class of a bet's coefficient must be one that passes. Most bets are decided by a sum of scaled
-/// logarithms; those too near the edge of a class for that go through the exact steps.
+/// logarithms, those too near the edge of a class for that by products of doubles, and what these leave
+/// open by the exact steps.
 struct TablasCoeficiente {
     enum Veredicto : uint8_t { Falla, Pasa, Duda };
 
-    std::array<double, 64> Apostado{}, Real{}; ///< percentages by position
-    std::array<uint8_t, 100> ClasePasa{};      ///< 1 or 0
-    /// All percentages above 0 lie in [1e-30, 1e30]: no step of any product leaves the normal doubles.
+    PorPosicionDoble Apostado{}, Real{};             ///< percentages
+    PorPosicionDoble FactorApostado{}, FactorReal{}; ///< p / 100, and 1 for a percentage that does not count
+    std::array<uint8_t, 101> PorClase{};             ///< `Veredicto` of each class; entry 100 is `Duda`
+    /// All percentages above 0 lie in [1e-30, 1e30]: no product leaves the normal doubles.
     bool Moderados = true;
 
     PalabrasPorPosicion Logaritmo; ///< of real / played, scaled, modulo 2^16

@@ -6,7 +6,6 @@
 
 frmAcercaDe::frmAcercaDe(QWidget* padre) : QDialog(padre) {
     setObjectName(Q("frmAcercaDe"));
-    setMinimumWidth(340);
     setWindowTitle(Q("Acerca de ") + Q(NombrePrograma));
     auto* caja = new QVBoxLayout(this);
     caja->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
@@ -30,4 +29,5 @@ frmAcercaDe::frmAcercaDe(QWidget* padre) : QDialog(padre) {
     volver->setDefault(true);
     pie->addWidget(volver);
     caja->addLayout(pie);
+    AjustarTamanio(*this);
 }

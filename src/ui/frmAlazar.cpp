@@ -40,4 +40,5 @@ frmAlazar::frmAlazar(EstadoTrabajo& trabajo, QWidget* padre) : QDialog(padre), l
     pie->addStretch();
     pie->addWidget(CrearBoton("imgVolver", "Cerrar", "Cerrar sin marcar", [this] { close(); }));
     caja->addLayout(pie);
+    AjustarTamanio(*this);
 }

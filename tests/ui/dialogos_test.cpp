@@ -142,6 +142,22 @@ TEST(Dialogos, NombresTeclasYTextosEnCadaJuego) {
     }
 }
 
+TEST(Dialogos, UnaLetraGrandeNoCortaTextos) {
+    const QFont normal = QApplication::font();
+    QFont grande = normal;
+    grande.setPointSizeF(normal.pointSizeF() * 1.7);
+    QApplication::setFont(grande);
+    for (const DialogoProbado& probado : Dialogos()) {
+        SCOPED_TRACE(probado.nombre);
+        Guion guion;
+        const auto dialogo = probado.crear(guion);
+        dialogo->show();
+        ComprobarTextos(*dialogo);
+        ComprobarSolapes(*dialogo);
+    }
+    QApplication::setFont(normal);
+}
+
 TEST(Dialogos, EscapeElAspaYVolverCierranIgual) {
     const std::function<void(QDialog&)> maneras[] = {
         [](QDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); },

@@ -60,6 +60,7 @@ frmAciertos::frmAciertos(LogicaAciertos& l, const QString& titulo, QWidget* padr
     volver->setDefault(true);
     pie->addWidget(volver);
     caja->addLayout(pie);
+    AjustarTamanio(*this);
     Pintar();
 }
 

@@ -56,6 +56,14 @@ void PonerCabecera(QVBoxLayout& caja, std::string_view titulo, std::string_view 
     caja.addSpacing(Paso);
 }
 
+void AjustarTamanio(QDialog& dialogo) {
+    QLayout& capa = *dialogo.layout();
+    const QSize previsto = capa.totalSizeHint();
+    const int alto = capa.hasHeightForWidth() ? capa.totalHeightForWidth(previsto.width()) : previsto.height();
+    dialogo.setMinimumSize(previsto.width(), alto);
+    dialogo.resize(previsto.width(), alto);
+}
+
 QGridLayout* CrearCaja(QBoxLayout& donde, std::string_view titulo) {
     auto* caja = new QGroupBox(Q(titulo));
     auto* rejilla = new QGridLayout(caja);
@@ -97,6 +105,8 @@ void TerminarMarco(MarcoFiltro& piezas, QDialog& dialogo, LogicaMarco& marco) {
         marco.PulsarActivar();
         PintarMarco(piezas, marco);
     });
+    PintarMarco(piezas, marco);
+    AjustarTamanio(dialogo);
 }
 
 void PintarMarco(const MarcoFiltro& piezas, const LogicaMarco& marco) {

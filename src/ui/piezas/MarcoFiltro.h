@@ -35,6 +35,10 @@ void PintarMarco(const MarcoFiltro& piezas, const LogicaMarco& marco);
 /// A dialog's heading and the sentence under it, in any dialog.
 void PonerCabecera(QVBoxLayout& caja, std::string_view titulo, std::string_view frase);
 
+/// Makes the finished dialog as large as it must be to show all it has, and never smaller. By itself the
+/// toolkit reckons with fewer lines than a wrapped text takes, and with two thirds of the screen at most.
+void AjustarTamanio(QDialog& dialogo);
+
 /// A captioned box for a grid of content.
 QGridLayout* CrearCaja(QBoxLayout& donde, std::string_view titulo);
 

@@ -21,11 +21,19 @@ namespace {
 
 constexpr int AnchoBoleto = 360;
 
+// A turn of the wheel over a list would change the game and clear the ticket.
+class SinRueda final : public QObject {
+  public:
+    using QObject::QObject;
+    bool eventFilter(QObject*, QEvent* evento) override { return evento->type() == QEvent::Wheel; }
+};
+
 QComboBox* CrearLista(QWidget* padre, const QString& nombre, const QString& accesible, const QStringList& textos) {
     auto* lista = new QComboBox(padre);
     lista->setObjectName(nombre);
     lista->setAccessibleName(accesible);
     lista->addItems(textos);
+    lista->installEventFilter(new SinRueda(lista));
     return lista;
 }
 
@@ -53,11 +61,11 @@ frmPrincipal::frmPrincipal(Sesion& sesion, Entorno& entorno) : logica{sesion, en
     izquierda->setContentsMargins(0, 0, 0, 0);
     izquierda->setSpacing(8);
     izquierda->addWidget(CrearJuego());
-    izquierda->addWidget(CrearBoleto());
+    izquierda->addWidget(CrearBoleto(), 1);
     izquierda->addWidget(CrearDigitos());
-    izquierda->addStretch();
     lstFiltros = CrearVistaFiltros(
         centro, [this](int k) { logica.AlternarFila(k), Pintar(); }, [this](int k) { AbrirFila(k); });
+    ColorearVistaFiltros(lstFiltros, palette());
     contadores = CrearPanelContadores(centro);
     rejilla->addWidget(columna, 0, 0);
     rejilla->addWidget(lstFiltros, 0, 1);
@@ -125,7 +133,7 @@ QWidget* frmPrincipal::CrearBoleto() {
     cabecera->addWidget(cmdCuadroApuDirecto, 1);
     cabecera->addWidget(lblMarcarDesmarcarTODOS);
     columna->addLayout(cabecera);
-    columna->addWidget(picNumeros.papel);
+    columna->addWidget(picNumeros.papel, 1);
     connect(lblMarcarDesmarcarTODOS, &QToolButton::clicked, this, [this] { logica.MarcarDesmarcarTODOS(), Pintar(); });
     return caja;
 }
@@ -133,6 +141,10 @@ QWidget* frmPrincipal::CrearBoleto() {
 QWidget* frmPrincipal::CrearDigitos() {
     picCuadroReintegros = new QWidget(this);
     picCuadroReintegros->setObjectName(Q("picCuadroReintegros"));
+    // The ticket keeps its size where the game has no digits.
+    QSizePolicy reservado = picCuadroReintegros->sizePolicy();
+    reservado.setRetainSizeWhenHidden(true);
+    picCuadroReintegros->setSizePolicy(reservado);
     auto* caja = new QVBoxLayout(picCuadroReintegros);
     caja->setContentsMargins(0, 0, 0, 0);
     caja->setSpacing(4);
@@ -245,7 +257,8 @@ void frmPrincipal::AbrirVentana(Orden orden) {
 }
 
 void frmPrincipal::AbrirFila(int k) {
-    if (!logica.Bloqueada()) AbrirDialogoFiltro(k, logica.sesion, logica.entorno, this);
+    if (!logica.Bloqueada() && !AbrirDialogoFiltro(k, logica.sesion, logica.entorno, this))
+        Fallo(logica.entorno, "AVISO: Esta condición todavía no está disponible");
     Pintar();
 }
 
@@ -266,6 +279,7 @@ void frmPrincipal::changeEvent(QEvent* evento) {
     QMainWindow::changeEvent(evento);
     if (evento->type() != QEvent::PaletteChange || lstFiltros == nullptr) return;
     ColorearBarraOrdenes(barra, palette());
+    ColorearVistaFiltros(lstFiltros, palette());
     Pintar();
 }
 

@@ -5,6 +5,9 @@
 #include <QPixmap>
 #include <QSvgRenderer>
 
+#include <algorithm>
+#include <cmath>
+
 #include "TextoQt.h"
 
 // The macro declares a function of the global scope.
@@ -28,7 +31,26 @@ QPixmap Dibujar(const QByteArray& svg, int lado) {
     return imagen;
 }
 
+double Luminancia(const QColor& color) {
+    const auto lineal = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+    return 0.2126 * lineal(color.redF()) + 0.7152 * lineal(color.greenF()) + 0.0722 * lineal(color.blueF());
+}
+
 } // namespace
+
+double Contraste(const QColor& uno, const QColor& otro) {
+    const double a = Luminancia(uno), b = Luminancia(otro);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+QColor Resalte(const QPalette& paleta) {
+    constexpr double suficiente = 4.5;
+    const QColor texto = paleta.color(QPalette::HighlightedText);
+    const QColor lejos = Luminancia(texto) > 0.5 ? QColor(Qt::black) : QColor(Qt::white);
+    QColor fondo = paleta.color(QPalette::Highlight);
+    for (int i = 0; i < 20 && Contraste(fondo, texto) < suficiente; ++i) fondo = Mezclar(fondo, lejos, 0.93);
+    return fondo;
+}
 
 bool EsOscura(const QPalette& paleta) {
     return paleta.color(QPalette::Window).lightness() < paleta.color(QPalette::WindowText).lightness();

@@ -222,6 +222,19 @@ TEST(frmPrincipal, CadaJuegoEnsenaSuBoleto) {
     EXPECT_EQ(p.Texto("lblTipoCombinacion"), "13 Números");
 }
 
+TEST(frmPrincipal, LaRuedaNoCambiaDeJuego) {
+    Principal p;
+    p.PulsarNumeros({1, 2});
+    auto* lista = Hijo<QComboBox>(p.ventana, "cboTipoJuego");
+    lista->setFocus();
+    const QPointF punto = lista->rect().center();
+    QWheelEvent rueda(punto, lista->mapToGlobal(punto), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(lista, &rueda);
+    EXPECT_EQ(p.sesion.trabajo.cboTipoJuego, PRIMITIVA);
+    EXPECT_EQ(p.Texto("lblTipoCombinacion"), "2 Números");
+}
+
 TEST(frmPrincipal, BaseAlAzar) {
     Principal p;
     EnModal([](QDialog& dialogo) {

@@ -85,7 +85,8 @@ void ColorearBarraOrdenes(const BarraOrdenes& barra, const QPalette& paleta) {
             // The one primary action stands in the highlight colour.
             colores.setColor(QPalette::Active, QPalette::ButtonText, paleta.color(QPalette::HighlightedText));
             barra.botones[i]->setStyleSheet(
-                Q("QToolButton { background: palette(highlight); color: palette(highlighted-text);"
+                Q("QToolButton { background: ") + Resalte(paleta).name() +
+                Q("; color: palette(highlighted-text);"
                   " border: 1px solid transparent; border-radius: 4px; padding: 4px 10px; font-weight: bold; }"
                   "QToolButton:hover { border-color: palette(highlighted-text); }"
                   "QToolButton:focus { border: 2px solid palette(window-text); }"

@@ -26,7 +26,7 @@ QLabel* CrearContador(QWidget* panel, QHBoxLayout* fila, const QString& nombre, 
     etiqueta->setFont(Letra(panel->font(), 0.9, false));
     auto* cifra = new QLabel(panel);
     cifra->setObjectName(nombre);
-    cifra->setAccessibleName(Q("Apuestas ") + titulo.toLower());
+    cifra->setAccessibleDescription(Q("Apuestas ") + titulo.toLower());
     cifra->setTextInteractionFlags(Qt::TextSelectableByMouse);
     // The widest figure fits from the start, so that nothing moves when it comes.
     const QFontMetrics medida(Letra(panel->font(), FactorCifra, true));

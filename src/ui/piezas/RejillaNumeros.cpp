@@ -9,9 +9,7 @@
 
 namespace {
 
-constexpr int LadoCelda = 32, LadoSerie = 24;
-// Of both shapes, so that what stands below does not move when the game changes.
-constexpr int AltoPapel = 394;
+constexpr int LadoCelda = 30, LadoSerie = 24;
 
 QToolButton* CrearSerie(QWidget* papel, std::string_view nombre, int indice, const QString& consejo,
                         const std::function<void(int)>& orden) {
@@ -130,7 +128,6 @@ RejillaNumeros CrearRejillaNumeros(QWidget* padre, std::string_view nombre, cons
     r.rejilla = new QGridLayout(r.papel);
     r.rejilla->setContentsMargins(8, 8, 8, 8);
     r.rejilla->setSpacing(3);
-    r.papel->setFixedHeight(AltoPapel);
     r.gestor = new GestorCeldas(r.papel);
     for (int n = 1; n <= NumeroMaximoBoleto; ++n) {
         QToolButton* celda =

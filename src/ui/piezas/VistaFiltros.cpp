@@ -182,3 +182,9 @@ void PintarVistaFiltros(QTreeWidget* lista, const Sesion& sesion, char separador
     }
     lista->setEnabled(habilitada);
 }
+
+void ColorearVistaFiltros(QTreeWidget* lista, const QPalette& paleta) {
+    QPalette colores = paleta;
+    colores.setColor(QPalette::Highlight, Resalte(paleta));
+    lista->setPalette(colores);
+}

@@ -12,3 +12,6 @@ QTreeWidget* CrearVistaFiltros(QWidget* padre, std::function<void(int)> alternar
 
 /// Shows the rows. Those that the game does not have stand grey, with a tip that says why.
 void PintarVistaFiltros(QTreeWidget* lista, const Sesion& sesion, char separadorMiles, bool habilitada);
+
+/// Takes the colours of another palette.
+void ColorearVistaFiltros(QTreeWidget* lista, const QPalette& paleta);

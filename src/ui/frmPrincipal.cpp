@@ -91,9 +91,6 @@ QWidget* frmPrincipal::CrearJuego() {
     cboTipoJuego = CrearLista(picBanner2, Q("cboTipoJuego"), Q("Juego"), juegos);
     cboTipoCombinacion = CrearLista(picBanner2, Q("cboTipoCombinacion"), Q("Modo de la base"),
                                     {Q("Pronóstico Manual"), Q("Pronóstico Aleatorio"), Q("Pronóstico Desde Archivo")});
-    // The import of bets is not part of this version.
-    cboTipoCombinacion->setItemData(PronosticoDesdeArchivo, 0, Qt::UserRole - 1);
-    cboTipoCombinacion->setItemData(PronosticoDesdeArchivo, Q("Todavía no está disponible"), Qt::ToolTipRole);
     txtFicheroASCII = new QLabel(picBanner2);
     txtFicheroASCII->setObjectName(Q("txtFicheroASCII"));
     auto* fila = new QHBoxLayout(picBanner2);

@@ -245,8 +245,22 @@ TEST(frmPrincipal, BaseAlAzar) {
     p.Elegir("cboTipoCombinacion", PronosticoAleatorio);
     EXPECT_EQ(p.Texto("lblTipoCombinacion"), "9 Números");
     EXPECT_EQ(p.Contadores()[0], "84");
-    const auto* modos = Hijo<QComboBox>(p.ventana, "cboTipoCombinacion");
-    EXPECT_FALSE(modos->model()->flags(modos->model()->index(PronosticoDesdeArchivo, 0)) & Qt::ItemIsEnabled);
+}
+
+TEST(frmPrincipal, BaseDesdeArchivo) {
+    const CarpetaTemporal carpeta;
+    EscribirTodo(carpeta.Ruta("mias.txt"), "01,02,03,04,05,06+3\r\n01,02,03,04,05,49+3\r\n");
+    Principal p;
+    p.Elegir("cboTipoCombinacion", PronosticoDesdeArchivo); // cancelled: the list goes back
+    EXPECT_EQ(Hijo<QComboBox>(p.ventana, "cboTipoCombinacion")->currentIndex(), PronosticoManual);
+    p.Ficheros = {carpeta.Ruta("mias.txt")};
+    p.Elegir("cboTipoCombinacion", PronosticoDesdeArchivo);
+    EXPECT_EQ(p.Contadores(), (Textos{"2", "2", "2"}));
+    EXPECT_EQ(p.Texto("txtFicheroASCII"), "mias.txt");
+    EXPECT_TRUE(Hijo<QLabel>(p.ventana, "txtFicheroASCII")->isVisible());
+    EXPECT_EQ(p.Texto("cmdCuadroApuDirecto"), "Apuestas Importadas");
+    for (const char* nombre : {"lblNumero_0", "lblReintegro_3", "cboTipoReintegro", "lblMarcarDesmarcarTODOS"})
+        EXPECT_FALSE(Hijo<QWidget>(p.ventana, nombre)->isEnabled()) << nombre;
 }
 
 TEST(frmPrincipal, BloqueadaMientrasCalculaYDesbloqueadaDespues) {

@@ -6,6 +6,7 @@
 #include "CalcularSistema.h"
 #include "ComandosFichero.h"
 #include "GuardarCombinacion.h"
+#include "ImportarCombinacion.h"
 #include "NumerosTexto.h"
 #include "Sesiones.h"
 #include "modGeneral.h"
@@ -117,6 +118,7 @@ bool LogicaPrincipal::CambiarTipoCombinacion(int indice) {
         trabajo.cboTipoReintegro = AlDirecto;
         return true;
     }
+    if (indice == PronosticoDesdeArchivo) ImportarCombinacion(sesion, entorno);
     if (indice == PronosticoManual) {
         const bool descartar = PuedeDescartar();
         // Refused, an imported base stays imported; a random one is a manual one from here on.

@@ -3,9 +3,7 @@
 #include <algorithm>
 
 #include "Conjunto.h"
-#include "CuentasAl4.h"
 #include "Eleccion.h"
-#include "EleccionPorFilas.h"
 #include "LogicaVentanaProceso.h"
 
 namespace {
@@ -88,7 +86,7 @@ void ReducirPorCobertura(LogicaVentanaProceso& vp) {
     vp.MejorApuestas = vp.NApuestasReduccion + 1;
     Conjunto conjunto(vp.sesion.trabajo);
     if (vp.RadioBits == 2) return ReducirContando<CuentasAl5, EleccionAl5>(vp, conjunto);
-    if (vp.RadioBits == 4) return ReducirContando<CuentasAl4, EleccionPorApuestas<CuentasAl4>>(vp, conjunto);
+    if (vp.RadioBits == 4) return ReducirContando<CuentasAl4, EleccionAl4>(vp, conjunto);
     EleccionDirecta eleccion(conjunto);
     Repetir(vp, conjunto, eleccion);
 }

@@ -4,8 +4,9 @@
 #include <cassert>
 
 CuentasAl4::CuentasAl4(const Conjunto& conjunto)
-    : conjunto_(conjunto), r4_(conjunto.n(), 4), r5_(conjunto.n(), 5), lugares_(conjunto.Apuestas()),
-      cuenta4_(r4_.Cuantos()), cuenta5_(r5_.Cuantos()), sinCubrir_(conjunto.Apuestas(), 1) {
+    : conjunto_(conjunto), r4_(conjunto.n(), 4), r5_(conjunto.n(), 5), r6_(conjunto.n(), 6),
+      lugares_(conjunto.Apuestas()), lugar6_(conjunto.Apuestas()), cuenta4_(r4_.Cuantos() + Margen),
+      cuenta5_(r5_.Cuantos() + Margen), estado_(r6_.Cuantos() + Margen, Ausente) {
     assert(conjunto.n() <= 22);
 }
 
@@ -49,10 +50,13 @@ bool CuentasAl4::Contar(const std::function<bool(int32_t)>& turno) {
         std::transform(cinco.begin(), cinco.end(), l.begin() + 15, [](int32_t s) { return static_cast<uint16_t>(s); });
         for (int k = 0; k < 15; ++k) ++cuenta4_[l[k]];
         for (int k = 15; k < 21; ++k) ++cuenta5_[l[k]];
+        lugar6_[i] = r6_.Lugar(p.data());
+        estado_[lugar6_[i]] = Descubierta;
         todas_.push_back({Mascara(p), i});
     }
     inicial4_ = cuenta4_;
     inicial5_ = cuenta5_;
+    estadoInicial_ = estado_;
     quedan_ = todas_;
     return true;
 }
@@ -61,28 +65,28 @@ void CuentasAl4::Reponer() {
     cuenta4_ = inicial4_;
     cuenta5_ = inicial5_;
     quedan_ = todas_;
-    std::fill(sinCubrir_.begin(), sinCubrir_.end(), uint8_t{1});
+    estado_ = estadoInicial_;
 }
 
 int CuentasAl4::Ganancia(int32_t i) const {
     const Lugares& l = lugares_[i];
-    const uint8_t* c4 = cuenta4_.data();
-    const uint8_t* c5 = cuenta5_.data();
+    const int16_t* c4 = cuenta4_.data();
+    const int16_t* c5 = cuenta5_.data();
     int suma4 = 0, suma5 = 0;
     for (int k = 0; k < 15; ++k) suma4 += c4[l[k]];
     for (int k = 15; k < 21; ++k) suma5 += c5[l[k]];
-    return suma4 - 4 * suma5 + 10 * sinCubrir_[i];
+    return suma4 - 4 * suma5 + estado_[lugar6_[i]] / 2;
 }
 
 void CuentasAl4::Cubrir(int32_t i) {
     const uint32_t mascara = Mascara(conjunto_.Apuesta(i));
     size_t n = 0;
-    for (const Descubierta& d : quedan_) {
+    for (const Pendiente& d : quedan_) {
         if (!CuatroOMas(d.mascara & mascara)) {
             quedan_[n++] = d;
             continue;
         }
-        sinCubrir_[d.apuesta] = 0;
+        estado_[lugar6_[d.apuesta]] = Cubierta;
         const Lugares& l = lugares_[d.apuesta];
         for (int k = 0; k < 15; ++k) --cuenta4_[l[k]];
         for (int k = 15; k < 21; ++k) --cuenta5_[l[k]];

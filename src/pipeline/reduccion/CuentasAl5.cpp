@@ -45,14 +45,13 @@ void CuentasAl5::CubrirUna(Seis q, int32_t lugar) {
 void CuentasAl5::Cubrir(const Seis& p) {
     const std::array<int32_t, 6> subconjunto = LugaresSinUno(r5_, p);
     for (int fuera = 0; fuera < 6; ++fuera) {
-        if (cuenta_[subconjunto[fuera]] == 0) continue;
         Seis q;
         std::copy(p.begin(), p.begin() + fuera, q.begin() + 1);
         std::copy(p.begin() + fuera + 1, p.end(), q.begin() + fuera + 1);
         int32_t resto = 0;
         for (int j = 1; j < 6; ++j) resto += r6_.Parte(j, q[j]);
         int j = 0;
-        for (int x = 1; x <= conjunto_.n(); ++x) {
+        for (int x = 1; x <= conjunto_.n() && cuenta_[subconjunto[fuera]] != 0; ++x) {
             if (j < 5 && x == q[j + 1]) {
                 resto += r6_.Parte(j, q[j + 1]) - r6_.Parte(j + 1, q[j + 1]);
                 q[j] = q[j + 1];

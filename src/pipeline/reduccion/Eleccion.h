@@ -10,7 +10,9 @@
 
 #include "Conjunto.h"
 #include "Cotas.h"
+#include "CuentasAl4.h"
 #include "CuentasAl5.h"
+#include "EleccionPorExpansion.h"
 #include "EleccionPorFilas.h"
 
 /// A bet covers itself alone: the visiting order it is.
@@ -92,4 +94,23 @@ class EleccionAl5 {
     CuentasAl5& cuentas_;
     std::optional<EleccionPorFilas> filas_;
     std::optional<EleccionPorApuestas<CuentasAl5>> apuestas_;
+};
+
+/// "al 4": by the whole base when the system fills enough of it.
+class EleccionAl4 {
+  public:
+    EleccionAl4(const Conjunto& conjunto, CuentasAl4& cuentas) {
+        if (conjunto.Apuestas() >= cuentas.Rangos6().Cuantos() / 8)
+            expansion_.emplace(conjunto, cuentas);
+        else
+            apuestas_.emplace(conjunto, cuentas);
+    }
+
+    void Comenzar(const int32_t* orden) { expansion_ ? expansion_->Comenzar(orden) : apuestas_->Comenzar(orden); }
+    int32_t Elegir() { return expansion_ ? expansion_->Elegir() : apuestas_->Elegir(); }
+    int32_t Ganancia() const { return expansion_ ? expansion_->Ganancia() : apuestas_->Ganancia(); }
+
+  private:
+    std::optional<EleccionPorExpansion> expansion_;
+    std::optional<EleccionPorApuestas<CuentasAl4>> apuestas_;
 };

@@ -2,6 +2,7 @@
 #include "LogicaVentanaProceso.h"
 
 #include <algorithm>
+#include <new>
 #include <set>
 
 #include <gtest/gtest.h>
@@ -188,6 +189,25 @@ TEST(LogicaVentanaProceso, EstadosDeLosBotones) {
         EXPECT_TRUE(ventana.Cerrada);
     };
     EXPECT_TRUE(CalcularSistema(guion.sesion, guion.entorno));
+}
+
+// Memory may run out at any moment: before the first system, or in a later cycle.
+TEST(LogicaVentanaProceso, SinMemoriaQuedaLoQueHabia) {
+    for (const double ciclo : {0.0, 2.0}) {
+        Guion guion;
+        Preparar(guion, 10, Ajustes(1, true));
+        guion.entorno.MostrarVentanaProceso = [&](LogicaVentanaProceso& ventana) {
+            guion.entorno.CederTurno = [&] {
+                if (ventana.CicloActual == ciclo && ventana.Corriendo) throw std::bad_alloc();
+            };
+            ventana.Activar();
+            EXPECT_TRUE(!ventana.Corriendo && ventana.imgVolver && !ventana.imgDetener);
+        };
+        EXPECT_EQ(CalcularSistema(guion.sesion, guion.entorno), ciclo > 0);
+        EXPECT_EQ(guion.Cajas, Textos{"[X] ERROR: no hay memoria suficiente"});
+        EXPECT_EQ(guion.sesion.trabajo.Contador.Reducidas, guion.sesion.trabajo.ApuestasReducidas.Apuestas());
+        EXPECT_FALSE(guion.sesion.trabajo.EstadoCalculando);
+    }
 }
 
 TEST(LogicaVentanaProceso, AjustesFueraDeSusLimites) {

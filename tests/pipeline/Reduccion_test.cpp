@@ -205,14 +205,22 @@ TEST(Reduccion, ElCambioDeRutaYDeTablas) {
         }
 }
 
-// Rows longer than one vector, walked by rows.
-TEST(Reduccion, UnSistemaFiltradoDenso) {
+// Dense systems whose runs are longer than one vector.
+TEST(Reduccion, SistemasFiltradosDensos) {
     Dado dado(5);
     ReduccionLiteral caso;
     caso.n = 24;
     caso.apuestas = Filtrar(Expandir(24), 6500, dado);
     caso.TipoReduccion = 1;
     Comparar(caso);
+    caso.n = 16;
+    caso.apuestas = Filtrar(Expandir(16), 1100, dado);
+    caso.TipoReduccion = 2;
+    caso.Ciclos = true;
+    caso.TopeCiclos = 3;
+    Comparar(caso);
+    std::shuffle(caso.apuestas.begin(), caso.apuestas.end(), dado);
+    Comparar(caso, true);
 }
 
 TEST(FilaAl5, ElNucleoDaLoMismoQueElBucle) {

@@ -5,11 +5,11 @@
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
-#include <numeric>
 #include <string>
 
 #include "Boleto.h"
 #include "GenerarApuestas.h"
+#include "Lectura.h"
 #include "LogicaVentanaProceso.h"
 #include "Sesiones.h"
 #include "Supervivientes.h"
@@ -27,12 +27,12 @@ double Ahora() {
 
 // The shortest of some readings, in seconds.
 double Lectura() {
-    static const std::vector<uint64_t> memoria(BytesDeLectura / 8, 1);
+    static const std::vector<uint8_t> memoria(BytesDeLectura, 1);
     double mejor = 1;
     uint64_t suma = 0;
     for (int vuelta = 0; vuelta < 7; ++vuelta) {
         const double antes = Ahora();
-        suma += std::accumulate(memoria.begin(), memoria.end(), uint64_t{0});
+        suma += SumarBytes(memoria.data(), BytesDeLectura);
         mejor = std::min(mejor, Ahora() - antes);
     }
     return suma == 0 ? 0 : mejor;

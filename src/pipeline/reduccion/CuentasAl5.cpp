@@ -45,9 +45,9 @@ void CuentasAl5::CubrirUna(Seis q, int32_t lugar) {
 void CuentasAl5::Cubrir(const Seis& p) {
     const std::array<int32_t, 6> subconjunto = LugaresSinUno(r5_, p);
     for (int fuera = 0; fuera < 6; ++fuera) {
-        Seis q;
-        std::copy(p.begin(), p.begin() + fuera, q.begin() + 1);
-        std::copy(p.begin() + fuera + 1, p.end(), q.begin() + fuera + 1);
+        Seis q{};
+        for (int k = 0; k < 6; ++k)
+            if (k != fuera) q[k < fuera ? k + 1 : k] = p[k];
         int32_t resto = 0;
         for (int j = 1; j < 6; ++j) resto += r6_.Parte(j, q[j]);
         int j = 0;

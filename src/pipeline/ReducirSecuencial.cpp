@@ -20,7 +20,8 @@ bool UnaBarrida(LogicaVentanaProceso& vp, const Conjunto& conjunto, Barrida<T>& 
     std::vector<int32_t>& elegidas = barrida.Elegidas();
     if (vp.PorNumero || vp.Porcentaje >= 100)
         return !barrida.Excedida() || (hastaNumero && static_cast<int32_t>(elegidas.size()) == vp.NApuestas);
-    const int32_t bastan = BastanPrimeras<T>(conjunto, elegidas, vp.CubiertasParaElegir(vp.Porcentaje));
+    const int32_t bastan =
+        BastanPrimeras<T>(conjunto, elegidas, vp.CubiertasParaElegir(vp.Porcentaje), [&] { return vp.Turno(1); });
     elegidas.resize(bastan);
     return bastan > 0;
 }

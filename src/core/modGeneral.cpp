@@ -1,5 +1,7 @@
 #include "modGeneral.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -158,6 +160,30 @@ bool LeerEntero(std::string_view texto, int32_t& n) {
     if (error != std::errc() || fin != texto.data() + texto.size()) return false;
     n = leido;
     return true;
+}
+
+bool LeerDecimal(std::string_view texto, double& x) {
+    std::string numero(Recortar(texto));
+    std::replace(numero.begin(), numero.end(), ',', '.');
+    const size_t signo = !numero.empty() && (numero[0] == '+' || numero[0] == '-') ? 1 : 0;
+    if (!std::all_of(numero.begin() + static_cast<std::ptrdiff_t>(signo), numero.end(),
+                     [](char c) { return EsDigito(c) || c == '.'; }))
+        return false;
+    const char* desde = numero.data() + (numero[0] == '+');
+    const char* hasta = numero.data() + numero.size();
+    double leido = 0;
+    const auto [fin, error] = std::from_chars(desde, hasta, leido, std::chars_format::fixed);
+    if (error != std::errc() || fin != hasta) return false;
+    x = leido;
+    return true;
+}
+
+std::string TextoDecimal(double x, char separador) {
+    std::array<char, 1100> cifras; // a double has up to 309 digits before the point and 1074 behind it
+    const auto [fin, error] = std::to_chars(cifras.data(), cifras.data() + cifras.size(), x, std::chars_format::fixed);
+    std::string texto(cifras.data(), error == std::errc() ? fin : cifras.data());
+    std::replace(texto.begin(), texto.end(), '.', separador);
+    return texto;
 }
 
 double RedondearPar(double x) {

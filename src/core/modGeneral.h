@@ -51,5 +51,12 @@ std::string_view Recortar(std::string_view texto);
 /// or does not fit 32 bits; then `n` is left as it was.
 bool LeerEntero(std::string_view texto, int32_t& n);
 
+/// Reads a decimal number without exponent, an optional sign before it, with "." or "," before the
+/// decimals. False when the text is anything else or no finite double; then `x` is left as it was.
+bool LeerDecimal(std::string_view texto, double& x);
+
+/// A number in its shortest form without exponent: "12,6", "11".
+std::string TextoDecimal(double x, char separador);
+
 /// Rounds to an integer, halves to the even neighbour.
 double RedondearPar(double x);

@@ -18,15 +18,6 @@ constexpr const char* PreguntaContinuar =
     "NO HA GUARDADO LA COMBINACION ACTUAL EN XML, ¿ DESEA CONTINUAR DE TODAS FORMAS ?";
 constexpr const char* PreguntaSalir = "NO HA GUARDADO LA COMBINACION ACTUAL EN XML, ¿ DESEA SALIR DE TODAS FORMAS ?";
 
-// A list of refused words that still fits a box.
-std::string Enumerar(const std::vector<std::string>& palabras) {
-    constexpr size_t maximo = 10, ancho = 20;
-    std::string texto;
-    for (size_t i = 0; i < std::min(palabras.size(), maximo); ++i)
-        texto += (i == 0 ? "" : ", ") + (palabras[i].size() > ancho ? "(texto largo)" : palabras[i]);
-    return palabras.size() > maximo ? texto + " ..." : texto;
-}
-
 } // namespace
 
 void LogicaPrincipal::Hacer(Orden orden) {
@@ -154,15 +145,9 @@ void LogicaPrincipal::MarcarDesmarcarTODOS() {
 void LogicaPrincipal::Pegar(const std::string& texto) {
     if (!BoletoHabilitado()) return;
     EstadoTrabajo& trabajo = sesion.trabajo;
-    const NumerosLeidos leidos = LeerNumeros(texto, trabajo.NumeroMaximo());
-    for (const int n : leidos.Numeros)
+    PegarNumeros(entorno, texto, trabajo.NumeroMaximo(), [&](int n) {
         if (!trabajo.lblNumero[static_cast<size_t>(n)]) ::PulsarNumero(trabajo, n);
-    const std::string intervalo = "del 1 al " + std::to_string(trabajo.NumeroMaximo());
-    if (!leidos.Erroneos.empty())
-        Fallo(entorno,
-              "AVISO: No se ha podido marcar: " + Enumerar(leidos.Erroneos) + ". Se esperan números " + intervalo);
-    else if (leidos.Numeros.empty())
-        Fallo(entorno, "AVISO: No hay números que pegar. Se esperan números " + intervalo);
+    });
 }
 
 std::string LogicaPrincipal::Copiar() const {

@@ -1,9 +1,12 @@
 // Lists of numbers as text, for the clipboard.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "Entorno.h"
 
 struct NumerosLeidos {
     std::vector<int> Numeros;          ///< those within 1 to the maximum, in the order of the text
@@ -15,3 +18,6 @@ NumerosLeidos LeerNumeros(std::string_view texto, int maximo);
 
 /// The numbers with ", " between: "3, 7, 12".
 std::string TextoNumeros(const std::vector<int>& numeros);
+
+/// Calls `marcar` for each number of a pasted text. What is none is told and left out.
+void PegarNumeros(Entorno& entorno, std::string_view texto, int maximo, const std::function<void(int)>& marcar);

@@ -145,3 +145,27 @@ TEST(modOrdenaciones, OrdenanSoloElTramo) {
     }
     QuickSortAsc(asc.data(), 5, 4); // an empty stretch
 }
+
+TEST(modGeneral, Decimales) {
+    const struct {
+        const char* texto;
+        bool bien;
+        double valor;
+    } casos[] = {
+        {"12,25", true, 12.25}, {" 12.25 ", true, 12.25}, {"7", true, 7},      {"+,5", true, 0.5},  {"-3.", true, -3},
+        {"", false, 0},         {".", false, 0},          {"1e5", false, 0},   {"1e999", false, 0}, {"inf", false, 0},
+        {"nan", false, 0},      {"0x10", false, 0},       {"1,2.3", false, 0}, {"+-1", false, 0},   {"1 2", false, 0},
+    };
+    for (const auto& caso : casos) {
+        double x = -99;
+        EXPECT_EQ(LeerDecimal(caso.texto, x), caso.bien) << caso.texto;
+        EXPECT_EQ(x, caso.bien ? caso.valor : -99) << caso.texto;
+    }
+    for (const double x : {12.6, 11.0, 0.1 + 0.2, 5e-324, 1.7976931348623157e308, -2.5}) {
+        double leido = 0;
+        EXPECT_TRUE(LeerDecimal(TextoDecimal(x, ','), leido));
+        EXPECT_EQ(leido, x);
+    }
+    EXPECT_EQ(TextoDecimal(12.6, ','), "12,6");
+    EXPECT_EQ(TextoDecimal(1e21, ','), "1000000000000000000000");
+}

@@ -361,3 +361,22 @@ TEST(EvaluadoresDeBloquesUnoAUno, Ejemplos) {
         EXPECT_EQ(guion.sesion.trabajo.ApuestaEliminada(1, 1), !ejemplo.queda) << ejemplo.que;
     }
 }
+
+// Bets whose coefficient lies on the edge between two classes, or one double beside it.
+TEST(EvaluadoresDeBloquesUnoAUno, CoeficientesEnElBordeDeCadaClase) {
+    for (int clase = 0; clase < 99; ++clase) {
+        Guion guion;
+        guion.PonerApuestas({{1, 45, 46, 47, 48, 49}, {2, 45, 46, 47, 48, 49}, {3, 45, 46, 47, 48, 49}});
+        auto& registro = guion.sesion.condiciones.COEFICIENTERENTABILIDAD;
+        registro.PorcentajesApostados.fill(40);
+        registro.PorcentajesReales.fill(40);
+        const double borde = 4 * (clase + 0.5);
+        registro.PorcentajesReales[1] = std::nextafter(borde, 0);
+        registro.PorcentajesReales[2] = borde;
+        registro.PorcentajesReales[3] = std::nextafter(borde, 1000);
+        for (size_t i = 1; i < 100; i += 2) registro.RangosCR[i] = 1;
+        Sesion literal = guion.sesion;
+        EXPECT_EQ(FiltrarCOEFICIENTERENTABILIDAD(guion.sesion, guion.entorno), LiteralCOEFICIENTERENTABILIDAD(literal));
+        EXPECT_EQ(guion.sesion.trabajo.ApuestaEliminada, literal.trabajo.ApuestaEliminada) << clase;
+    }
+}

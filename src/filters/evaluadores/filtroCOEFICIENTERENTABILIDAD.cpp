@@ -63,9 +63,9 @@ struct Escala {
 };
 
 // Decides the sums whose whole uncertainty lies in classes that all pass, or all fail.
-std::vector<uint8_t> DecidirSumas(const Escala& escala, double error, const std::array<uint8_t, Clases + 1>& porClase) {
+std::vector<uint8_t> DecidirSumas(const Escala& escala, double error, const std::array<int32_t, Clases + 1>& porClase) {
     std::array<size_t, Clases + 1> pasanAntes{};
-    for (size_t c = 0; c < Clases; ++c) pasanAntes[c + 1] = pasanAntes[c] + porClase[c];
+    for (size_t c = 0; c < Clases; ++c) pasanAntes[c + 1] = pasanAntes[c] + static_cast<size_t>(porClase[c]);
     const auto bordes = BordesDeClases();
     std::vector<uint8_t> veredicto(65536, TablasCoeficiente::Duda);
     size_t desde = 0, hasta = 0;

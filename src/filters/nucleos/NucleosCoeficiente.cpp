@@ -38,12 +38,27 @@ struct Redondeo {
     }
 };
 
-// The products of the factors of consecutive bets in units of the 14th decimal. In doubles their
-// relative error stays below 1e-14; from 1e10 units on a unit more or less is of no account either.
-HWY_INLINE Redondeo Probabilidad(const hn::VFromD<decltype(di)> (&posiciones)[6], const PorPosicionDoble& factores) {
-    VD producto = hn::Set(dd, 1e14);
-    for (const auto& posicion : posiciones)
-        producto = hn::Mul(producto, hn::GatherIndex(dd, factores.data(), posicion));
+// The positions of consecutive bets in one row. In a table in order those of the first rows agree.
+struct Posiciones {
+    hn::VFromD<decltype(di)> todas;
+    size_t primera;
+    bool iguales;
+
+    HWY_INLINE explicit Posiciones(const uint8_t* fila) : primera(fila[0] & 63u) {
+        const hn::Rebind<uint8_t, Dobles> d8;
+        const hn::Rebind<int32_t, Dobles> d32;
+        const auto bytes = hn::And(hn::LoadU(d8, fila), hn::Set(d8, 63));
+        todas = hn::PromoteTo(di, hn::PromoteTo(d32, bytes));
+        iguales = hn::AllTrue(d8, hn::Eq(bytes, hn::Set(d8, static_cast<uint8_t>(primera))));
+    }
+    HWY_INLINE VD En(const PorPosicionDoble& tabla) const {
+        return iguales ? hn::Set(dd, tabla[primera]) : hn::GatherIndex(dd, tabla.data(), todas);
+    }
+};
+
+// Products of the factors of consecutive bets in units of the 14th decimal. In doubles their relative
+// error stays below 1e-14; from 1e10 units on a unit more or less is of no account either.
+HWY_INLINE Redondeo EnUnidades(VD producto) {
     Redondeo unidades(producto);
     unidades.duda = hn::IfThenZeroElse(hn::Ge(producto, hn::Set(dd, 1e10)), unidades.duda);
     return unidades;
@@ -52,23 +67,24 @@ HWY_INLINE Redondeo Probabilidad(const hn::VFromD<decltype(di)> (&posiciones)[6]
 // Decides as many bets as a vector of doubles holds, from `i` on. The few that stay in doubt are left
 // so.
 HWY_INLINE void DecidirConDobles(const Tramo& tramo, int64_t i, const TablasCoeficiente& tablas, uint8_t* veredicto) {
-    const hn::Rebind<uint8_t, Dobles> d8;
-    const hn::Rebind<int32_t, Dobles> d32;
-    hn::VFromD<decltype(di)> posiciones[6];
-    for (int r = 0; r < 6; ++r) {
-        const auto bytes = hn::And(hn::LoadU(d8, tramo.fila[r] + i), hn::Set(d8, 63));
-        posiciones[r] = hn::PromoteTo(di, hn::PromoteTo(d32, bytes));
+    VD productoApostado = hn::Set(dd, 1e14), productoReal = productoApostado;
+    for (const uint8_t* fila : tramo.fila) {
+        const Posiciones posiciones(fila + i);
+        productoApostado = hn::Mul(productoApostado, posiciones.En(tablas.FactorApostado));
+        productoReal = hn::Mul(productoReal, posiciones.En(tablas.FactorReal));
     }
-    const Redondeo apostada = Probabilidad(posiciones, tablas.FactorApostado);
-    const Redondeo real = Probabilidad(posiciones, tablas.FactorReal);
+    const Redondeo apostada = EnUnidades(productoApostado), real = EnUnidades(productoReal);
     const Redondeo decimas(hn::Mul(hn::Div(real.entero, apostada.entero), hn::Set(dd, 10)));
     const VD ultima = hn::Set(dd, 99), dudosa = hn::Set(dd, 100);
-    // A product of 0 gives no number, or an infinite one; both belong to the last class.
-    const auto menor = hn::Lt(decimas.entero, ultima);
-    const VD duda = hn::Or(hn::Or(apostada.duda, real.duda), hn::IfThenElseZero(menor, decimas.duda));
-    HWY_ALIGN double clases[AnchoDobles];
-    hn::Store(hn::IfThenElse(hn::MaskFromVec(duda), dudosa, hn::IfThenElse(menor, decimas.entero, ultima)), dd, clases);
-    for (size_t j = 0; j < AnchoDobles; ++j) veredicto[j] = tablas.PorClase[static_cast<size_t>(clases[j])];
+    // A product of 0 gives no number, or an infinite one; both belong to the last class without a doubt.
+    const auto tieneBorde = hn::Le(decimas.entero, ultima);
+    const VD duda = hn::Or(hn::Or(apostada.duda, real.duda), hn::IfThenElseZero(tieneBorde, decimas.duda));
+    const VD segura = hn::IfThenElse(tieneBorde, decimas.entero, ultima);
+    const VD clase = hn::IfThenElse(hn::MaskFromVec(duda), dudosa, segura);
+    const hn::Rebind<int32_t, Dobles> d32;
+    const hn::Rebind<uint8_t, Dobles> d8;
+    const auto porClase = hn::GatherIndex(d32, tablas.PorClase.data(), hn::DemoteTo(d32, clase));
+    hn::StoreU(hn::DemoteTo(d8, porClase), d8, veredicto);
 }
 
 struct PruebaCoeficiente {
@@ -89,16 +105,14 @@ struct PruebaCoeficiente {
             veredicto[2 * j + 1] = porSuma[impares[j]];
         }
         const V v = hn::Load(d, veredicto);
-        if (hn::AllFalse(d, hn::Eq(v, hn::Set(d, TablasCoeficiente::Duda)))) return v;
+        const auto dudas = hn::Eq(v, hn::Set(d, TablasCoeficiente::Duda));
+        if (hn::AllFalse(d, dudas)) return v;
+        uint8_t bits[HWY_MAX_BYTES / 8];
+        hn::StoreMaskBits(d, dudas, bits);
         for (size_t j = 0; j < 2 * palabras; j += AnchoDobles)
-            if (HayDudas(veredicto + j)) Decidir(tramo, i + static_cast<int64_t>(j), veredicto + j);
+            if ((bits[j / 8] >> j % 8 & ((1 << AnchoDobles) - 1)) != 0)
+                Decidir(tramo, i + static_cast<int64_t>(j), veredicto + j);
         return hn::Load(d, veredicto);
-    }
-
-    static HWY_INLINE bool HayDudas(const uint8_t* veredicto) {
-        bool hay = false;
-        for (size_t j = 0; j < AnchoDobles; ++j) hay |= veredicto[j] == TablasCoeficiente::Duda;
-        return hay;
     }
 
     HWY_INLINE void Decidir(const Tramo& tramo, int64_t i, uint8_t* veredicto) const {

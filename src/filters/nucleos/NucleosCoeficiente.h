@@ -15,7 +15,7 @@ struct TablasCoeficiente {
 
     PorPosicionDoble Apostado{}, Real{};             ///< percentages
     PorPosicionDoble FactorApostado{}, FactorReal{}; ///< p / 100, and 1 for a percentage that does not count
-    std::array<uint8_t, 101> PorClase{};             ///< `Veredicto` of each class; entry 100 is `Duda`
+    std::array<int32_t, 101> PorClase{}; ///< `Veredicto` of each class, entry 100 is `Duda`; gathered, so 32 bits
     /// All percentages above 0 lie in [1e-30, 1e30]: no product leaves the normal doubles.
     bool Moderados = true;
 

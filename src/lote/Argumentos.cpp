@@ -13,7 +13,8 @@ CLI::Formatter Formato() {
                                        {"Positionals", "Argumentos"},
                                        {"OPTIONS", "opciones"},
                                        {"SUBCOMMAND", "ORDEN [argumentos]"},
-                                       {"REQUIRED", ""}})
+                                       {"REQUIRED", ""},
+                                       {"Needs", "Va con"}})
         formato.label(clave, texto);
     return formato;
 }
@@ -43,6 +44,8 @@ std::string Motivo(const CLI::App& programa, const CLI::ParseError& error) {
     case CLI::ExitCodes::ArgumentMismatch:
         return texto.find(" missing") != std::string::npos ? Antes(texto, ":") + " necesita un valor"
                                                            : Antes(texto, ":") + " se ha dado más de una vez";
+    case CLI::ExitCodes::RequiresError:
+        return Antes(texto, " requires ") + " sólo vale con " + Despues(texto, " requires ");
     default:
         return texto; // the checks below write theirs in Spanish
     }

@@ -6,6 +6,7 @@
 #include "Argumentos.h"
 #include "CalcularSistema.h"
 #include "GuardarCombinacion.h"
+#include "ImportarCombinacion.h"
 #include "LogicaVentanaProceso.h"
 #include "Ordenes.h"
 #include "Parada.h"
@@ -16,7 +17,8 @@
 namespace {
 
 struct ArgumentosCalcular {
-    std::string Base, Guardar, Texto, Condicionadas;
+    std::string Base, Importar, Guardar, Texto, Condicionadas;
+    bool Reintegros = false;
     int32_t Ciclos = 0, Segundos = 0; ///< ends of a reduction, 0 where none was given
     bool Json = false;
 };
@@ -88,6 +90,10 @@ bool GuardarFicheros(Lote& lote, const ArgumentosCalcular& argumentos) {
 
 bool Calcular(Lote& lote, const ArgumentosCalcular& argumentos) {
     if (!AbrirFicheroBase(argumentos.Base, lote.sesion, lote.entorno)) return false;
+    if (!argumentos.Importar.empty()) {
+        lote.sesion.trabajo.chkReintegros = argumentos.Reintegros;
+        if (!ImportarFichero(argumentos.Importar, lote.sesion, lote.entorno)) return false;
+    }
     int64_t ciclos = 0;
     lote.entorno.MostrarVentanaProceso = [&](LogicaVentanaProceso& ventana) {
         CorrerReduccion(ventana, lote, argumentos, ciclos);
@@ -106,6 +112,11 @@ void DeclararCalcular(CLI::App& programa, Lote& lote) {
     CLI::App* orden = NuevaOrden(programa, lote, "calcular", "Calcula el sistema de un fichero base",
                                  [argumentos](Lote& l) { return Calcular(l, *argumentos); });
     Fichero(orden, "BASE.xml", argumentos->Base, "Fichero base que se abre");
+    CLI::Option* importar =
+        Fichero(orden, "--importar", argumentos->Importar,
+                "Parte de las apuestas de este fichero; el fichero base sólo da condiciones y reducción");
+    orden->add_flag("--reintegros", argumentos->Reintegros, "Carga también sus reintegros o sus sueños")
+        ->needs(importar);
     Entero(orden, "--ciclos", argumentos->Ciclos, 1, "Ciclos de una reducción que no acaba por sí sola; si falta, 1");
     Entero(orden, "--segundos", argumentos->Segundos, 1,
            "Segundos de esa reducción, en lugar de los ciclos o con ellos");

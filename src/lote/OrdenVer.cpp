@@ -5,13 +5,9 @@
 #include "Ordenes.h"
 #include "Parada.h"
 #include "Sesiones.h"
-#include "modEncriptarFichero.h"
+#include "modImportarASCII.h"
 
 namespace {
-
-constexpr const char* AvisoNadaImportado =
-    "AVISO: Se han importado 0 apuestas.\nEl fichero ha de estar en formato: 010203040506 o 01,02,03,04,05,06 o 01 02 "
-    "03 04 05 06";
 
 struct ArgumentosVer {
     std::string Fichero;
@@ -22,9 +18,9 @@ struct ArgumentosVer {
 bool Ver(Lote& lote, const ArgumentosVer& argumentos) {
     CambiarJuego(lote.sesion, argumentos.Juego);
     Tabla apuestas;
-    const int32_t cuantas =
-        LeerFicheroApuestas(argumentos.Fichero, apuestas, nullptr, lote.sesion.trabajo.JuegoActual(), lote.entorno);
-    if (cuantas == 0) return Fallo(lote.entorno, AvisoNadaImportado);
+    const int32_t cuantas = LeerApuestas(argumentos.Fichero, argumentos.Reintegros, apuestas, nullptr,
+                                         lote.sesion.trabajo.JuegoActual(), lote.entorno);
+    if (cuantas == 0) return Fallo(lote.entorno, AvisoSinApuestas);
     std::string linea;
     for (int32_t i = 1; i <= cuantas && lote.salida.Abierta() && !ParadaPedida(); ++i) {
         linea.clear();

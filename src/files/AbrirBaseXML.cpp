@@ -21,26 +21,13 @@ struct Apertura {
     bool Importada() const { return sesion.trabajo.cboTipoCombinacion == PronosticoDesdeArchivo; }
 };
 
-// A change of game clears the marks, but those of imported bets stay with them.
-void PonerJuego(Apertura& apertura, int juego) {
-    EstadoTrabajo& trabajo = apertura.sesion.trabajo;
-    const auto numeros = trabajo.lblNumero;
-    const auto digitos = trabajo.lblReintegro;
-    const Contadores contador = trabajo.Contador;
-    CambiarJuego(apertura.sesion, juego);
-    if (!apertura.Importada()) return;
-    trabajo.lblNumero = numeros;
-    trabajo.lblReintegro = digitos;
-    trabajo.Contador = contador;
-}
-
 void LeerPrograma(Apertura& apertura, const ElementoXML& e) {
     if (!e.nodo.attribute("IDtipojuego")) return;
     BloqueXML bloque;
     int32_t juego = PRIMITIVA;
     bloque.Valor(e, "IDtipojuego", juego);
     if (juego < 0) bloque.Fallar("el juego " + std::to_string(juego) + " no existe");
-    if (bloque.Fallo().empty() && juego <= EURODREAMS) PonerJuego(apertura, juego);
+    if (bloque.Fallo().empty() && juego <= EURODREAMS) CambiarJuego(apertura.sesion, juego);
     apertura.errores.Anadir(bloque.Fallo(), "TIPOJUEGO");
 }
 

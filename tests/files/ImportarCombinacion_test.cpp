@@ -235,7 +235,7 @@ TEST(ImportarCombinacion, NumerosDeFueraDelBoletoDeEURODREAMS) {
     EXPECT_EQ(ContarBase(m.trabajo), 4);
 }
 
-TEST(ImportarCombinacion, UnFicheroBaseTraeCondicionesYConservaLasApuestas) {
+TEST(ImportarCombinacion, UnFicheroBaseTraeCondicionesYConservaJuegoYApuestas) {
     Importacion m;
     for (const int juego : {PRIMITIVA, EURODREAMS}) {
         IniciarSesion(m.sesion, m.entorno);
@@ -249,7 +249,7 @@ TEST(ImportarCombinacion, UnFicheroBaseTraeCondicionesYConservaLasApuestas) {
         m.Cajas.clear();
         ASSERT_TRUE(AbrirFicheroBase(m.carpeta.Ruta("base.xml"), m.sesion, m.entorno));
         EXPECT_EQ(m.Cajas, Textos{});
-        EXPECT_EQ(m.trabajo.cboTipoJuego, juego);
+        EXPECT_EQ(m.trabajo.cboTipoJuego, PRIMITIVA);
         EXPECT_TRUE(m.sesion.condiciones.lstFiltros[8].Activo);
         EXPECT_EQ(ContarBase(m.trabajo), 6);
         EXPECT_EQ(m.Digitos(), (Apuesta{1}));

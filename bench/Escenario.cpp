@@ -44,6 +44,7 @@ Escenario::Escenario() {
     trabajos_.back().patron = Patron::MemoriaFresca;
     AnotarFiltros();
     AnotarTraslados();
+    AnotarNumeracion();
 }
 
 // The expected answer is that of the scalar twins.

@@ -43,6 +43,7 @@ class Escenario {
     void Anotar(std::string nombre, double permitido, std::function<void()> preparar, std::function<int64_t()> hacer);
     void AnotarFiltros();
     void AnotarTraslados();
+    void AnotarNumeracion();
     void ReponerApuestas();
     void EliminarUnaDeCinco();
     void Condicionar(const std::vector<int>& filtros);
@@ -50,5 +51,7 @@ class Escenario {
     Sesion sesion_;
     Entorno entorno_;
     Tabla fresca_;
+    std::vector<int32_t> csn_;
+    Tabla numeradas_; ///< the bets of `csn_`, in seven rows
     std::vector<Trabajo> trabajos_;
 };

@@ -2,17 +2,15 @@
 // system, which is what dd does: ficheros FOLDER. The four take turns so that all meet the same
 // machine; each figure is the median of the rounds.
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <functional>
-#include <memory>
 #include <numeric>
 #include <string>
 #include <vector>
 
-#include <fcntl.h>
 #include <unistd.h>
 
+#include "Copias.h"
 #include "modEncriptarFichero.h"
 
 namespace {
@@ -31,24 +29,6 @@ Tabla TodoElBoleto() {
         std::iota(a.begin() + static_cast<std::ptrdiff_t>(r) - 1, a.end(), static_cast<uint8_t>(a[r - 1] + 1));
     }
     return tabla;
-}
-
-// dd if=origen of=destino bs=1M, with conv=fsync where there is a destination on the disk.
-void Copiar(const std::string& origen, const std::string& destino) {
-    const std::unique_ptr<char[]> bloque(new char[1 << 20]);
-    const int entrada = open(origen.c_str(), O_RDONLY);
-    const int salida = open(destino.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
-    for (ssize_t n; (n = read(entrada, bloque.get(), 1 << 20)) > 0;)
-        if (write(salida, bloque.get(), static_cast<size_t>(n)) != n) std::perror("write");
-    if (destino != "/dev/null") fsync(salida);
-    close(entrada);
-    close(salida);
-}
-
-double Segundos(const std::function<void()>& que) {
-    const auto antes = std::chrono::steady_clock::now();
-    que();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - antes).count();
 }
 
 } // namespace

@@ -100,6 +100,12 @@ std::string RutaConExtension(std::string_view ruta, std::string_view extension) 
     return std::string(ruta) + std::string(extension);
 }
 
+bool TieneExtension(std::string_view ruta, std::string_view extension) {
+    return ruta.size() >= extension.size() &&
+           std::equal(extension.begin(), extension.end(), ruta.end() - static_cast<std::ptrdiff_t>(extension.size()),
+                      [](char a, char b) { return a == (b >= 'A' && b <= 'Z' ? b - 'A' + 'a' : b); });
+}
+
 std::string NombreSinCarpeta(std::string_view ruta) {
     return std::string(ruta.substr(ruta.find_last_of('/') + 1));
 }

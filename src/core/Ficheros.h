@@ -38,6 +38,9 @@ class FicheroEntrada {
 /// name is a ".", the name is first cut at its last ".".
 std::string RutaConExtension(std::string_view ruta, std::string_view extension);
 
+/// Whether the path ends in this extension, the point included and in small letters, in any case.
+bool TieneExtension(std::string_view ruta, std::string_view extension);
+
 /// What stands behind the last "/".
 std::string NombreSinCarpeta(std::string_view ruta);
 

@@ -230,13 +230,6 @@ int32_t ImportarTXT(const std::string& fichero, Tabla& apuestas, std::string* et
     return 0;
 }
 
-bool EsFicheroTOM(std::string_view ruta) {
-    constexpr std::string_view extension = ".tom";
-    return ruta.size() >= extension.size() &&
-           std::equal(extension.begin(), extension.end(), ruta.end() - static_cast<std::ptrdiff_t>(extension.size()),
-                      [](char a, char b) { return a == (b >= 'A' && b <= 'Z' ? b - 'A' + 'a' : b); });
-}
-
 } // namespace
 
 int32_t ImportarTXTConReintegros(const std::string& fichero, Tabla& apuestas, std::string* etiqueta, const Juego& juego,
@@ -250,7 +243,7 @@ int32_t ImportarTXTSinReintegros(const std::string& fichero, Tabla& apuestas, st
 
 int32_t LeerApuestas(const std::string& fichero, bool conReintegros, Tabla& apuestas, std::string* etiqueta,
                      const Juego& juego, Entorno& entorno) {
-    if (EsFicheroTOM(fichero)) return LeerFicheroApuestas(fichero, apuestas, etiqueta, juego, entorno);
+    if (TieneExtension(fichero, ".tom")) return LeerFicheroApuestas(fichero, apuestas, etiqueta, juego, entorno);
     return ImportarTXT(fichero, apuestas, etiqueta, conReintegros ? &juego : nullptr, entorno);
 }
 

@@ -37,11 +37,11 @@ QComboBox* CrearLista(QWidget* padre, const QString& nombre, const QString& acce
     return lista;
 }
 
-// The path of the one base file that is dragged, empty for anything else.
-QString BaseArrastrada(const QMimeData* datos) {
+// The path of the one file that is dragged, empty for anything else.
+QString FicheroArrastrado(const QMimeData* datos) {
     if (!datos->hasUrls() || datos->urls().size() != 1) return {};
     const QString ruta = datos->urls().constFirst().toLocalFile();
-    return QFileInfo(ruta).suffix().compare(Q("xml"), Qt::CaseInsensitive) == 0 ? ruta : QString();
+    return QFileInfo(ruta).isFile() ? ruta : QString();
 }
 
 } // namespace
@@ -286,11 +286,11 @@ void frmPrincipal::resizeEvent(QResizeEvent* evento) {
 }
 
 void frmPrincipal::dragEnterEvent(QDragEnterEvent* evento) {
-    if (!logica.Bloqueada() && !BaseArrastrada(evento->mimeData()).isEmpty()) evento->acceptProposedAction();
+    if (!logica.Bloqueada() && !FicheroArrastrado(evento->mimeData()).isEmpty()) evento->acceptProposedAction();
 }
 
 void frmPrincipal::dropEvent(QDropEvent* evento) {
-    const QString ruta = BaseArrastrada(evento->mimeData());
+    const QString ruta = FicheroArrastrado(evento->mimeData());
     evento->acceptProposedAction();
     // The program that the file comes from waits for this event: boxes come after it.
     QTimer::singleShot(0, this, [this, ruta] {

@@ -122,7 +122,7 @@ TEST(frmPrincipal, AbrirGuardarYSoltarUnFicheroBase) {
     EXPECT_EQ(p.Texto("lblTipoCombinacion"), "3 Números");
     EXPECT_EQ(p.Cajas.size(), 2u);
 
-    for (const char* nombre : {"/tmp/apuestas.TOM", "/tmp/sin_extension"}) {
+    for (const std::string& nombre : {carpeta.Ruta("no_existe.xml"), carpeta.Ruta()}) {
         datos.setUrls({QUrl::fromLocalFile(Q(nombre))});
         QDragEnterEvent entrada(QPoint(300, 300), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
         entrada.setAccepted(false);
@@ -261,6 +261,34 @@ TEST(frmPrincipal, BaseDesdeArchivo) {
     EXPECT_EQ(p.Texto("cmdCuadroApuDirecto"), "Apuestas Importadas");
     for (const char* nombre : {"lblNumero_0", "lblReintegro_3", "cboTipoReintegro", "lblMarcarDesmarcarTODOS"})
         EXPECT_FALSE(Hijo<QWidget>(p.ventana, nombre)->isEnabled()) << nombre;
+}
+
+TEST(frmPrincipal, ApuestasDeUnFicheroDeCadaDisposicion) {
+    const CarpetaTemporal carpeta;
+    for (const char* texto : {"010203040506\r\n020304050648\r\n", "01,02,03,04,05,06\n02,03,04,05,06,48\n",
+                              "01 02 03 04 05 06\r\n02 03 04 05 06 48"}) {
+        Principal p;
+        p.PulsarNumeros({20});
+        EscribirTodo(carpeta.Ruta("apuestas.txt"), texto);
+        p.Elegir("cboTipoCombinacion", PronosticoDesdeArchivo); // cancelled
+        EXPECT_EQ(p.Texto("lblTipoCombinacion"), "1 Números");
+        EXPECT_EQ(Hijo<QComboBox>(p.ventana, "cboTipoCombinacion")->currentIndex(), PronosticoManual);
+
+        p.Pulsar("chkReintegros");
+        p.Ficheros = {carpeta.Ruta("apuestas.txt")};
+        p.Elegir("cboTipoCombinacion", PronosticoDesdeArchivo);
+        EXPECT_EQ(p.Cajas.size(), 1u);
+        EXPECT_EQ(p.Contadores(), (Textos{"2", "2", "2"}));
+        EXPECT_EQ(p.Texto("lblTipoCombinacion"), "7 Números");
+        EXPECT_EQ(p.Texto("txtFicheroASCII"), "apuestas.txt");
+        EXPECT_EQ(p.Texto("cmdCuadroApuDirecto"), "Apuestas Importadas");
+        EXPECT_FALSE(Hijo<QToolButton>(p.ventana, "lblNumero_0")->isEnabled());
+        EXPECT_FALSE(Hijo<QComboBox>(p.ventana, "cboTipoReintegro")->isEnabled());
+        EXPECT_TRUE(Hijo<QComboBox>(p.ventana, "cboTipoCombinacion")->isEnabled());
+        p.Tecla(Qt::Key_F5);
+        EXPECT_EQ(Apuestas(p.sesion.trabajo.ApuestasReducidas, 7),
+                  (std::vector<Apuesta>{{1, 2, 3, 4, 5, 6, 1}, {2, 3, 4, 5, 6, 48, 1}}));
+    }
 }
 
 TEST(frmPrincipal, BloqueadaMientrasCalculaYDesbloqueadaDespues) {

@@ -5,6 +5,7 @@
 #include "Boleto.h"
 #include "CalcularSistema.h"
 #include "ComandosFichero.h"
+#include "Ficheros.h"
 #include "GuardarCombinacion.h"
 #include "ImportarCombinacion.h"
 #include "NumerosTexto.h"
@@ -83,7 +84,11 @@ void LogicaPrincipal::AyudaOnline() {
 }
 
 void LogicaPrincipal::Soltar(const std::string& ruta) {
-    if (!Bloqueada() && !ruta.empty() && PuedeDescartar()) AbrirFicheroBase(ruta, sesion, entorno);
+    if (Bloqueada() || ruta.empty() || !PuedeDescartar()) return;
+    if (TieneExtension(ruta, ".xml"))
+        AbrirFicheroBase(ruta, sesion, entorno);
+    else
+        ImportarFichero(ruta, sesion, entorno);
 }
 
 void LogicaPrincipal::CambiarJuego(int juego) {

@@ -25,7 +25,7 @@ struct LogicaPrincipal {
     /// True when the chooser of a random base is to be opened.
     bool CambiarTipoCombinacion(int indice);
 
-    /// Opens a base file dropped on the window.
+    /// A file dropped on the window: opens a base file, imports the bets of any other.
     void Soltar(const std::string& ruta);
 
     /// Clicks on the ticket; without effect while it is disabled.

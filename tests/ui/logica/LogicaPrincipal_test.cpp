@@ -135,6 +135,31 @@ TEST(LogicaPrincipal, ModoDeLaBase) {
     }
 }
 
+TEST(LogicaPrincipal, DesdeArchivoYSoltarUnFicheroDeApuestas) {
+    const CarpetaTemporal carpeta;
+    EscribirTodo(carpeta.Ruta("a.txt"), "010203040506\r\n");
+    Ventana v;
+    v.trabajo.chkReintegros = false;
+    v.MarcarHasta(3);
+    EXPECT_FALSE(v.logica.CambiarTipoCombinacion(PronosticoDesdeArchivo)); // no file chosen
+    EXPECT_EQ(v.trabajo.cboTipoCombinacion, PronosticoManual);
+    EXPECT_EQ(v.Marcados(), 3);
+    v.Ficheros = {carpeta.Ruta("a.txt")};
+    EXPECT_FALSE(v.logica.CambiarTipoCombinacion(PronosticoDesdeArchivo));
+    EXPECT_EQ(v.trabajo.cboTipoCombinacion, PronosticoDesdeArchivo);
+    EXPECT_EQ(v.Marcados(), 6);
+
+    EscribirTodo(carpeta.Ruta("b.asc"), "020304050607\r\n030405060708\r\n");
+    v.Cajas.clear();
+    v.logica.Soltar(carpeta.Ruta("b.asc")); // the import has not been saved
+    EXPECT_EQ(v.Cajas, Textos{Continuar + " -> no"});
+    EXPECT_EQ(v.trabajo.NApuestasImportadas, 1);
+    v.Respuestas = {true};
+    v.logica.Soltar(carpeta.Ruta("b.asc"));
+    EXPECT_EQ(v.trabajo.NApuestasImportadas, 2);
+    EXPECT_EQ(v.trabajo.txtFicheroASCII, carpeta.Ruta("b.asc"));
+}
+
 TEST(LogicaPrincipal, LaBanderaDeGuardado) {
     struct Caso {
         const char* nombre;

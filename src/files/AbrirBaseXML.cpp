@@ -22,7 +22,8 @@ struct Apertura {
 };
 
 void LeerPrograma(Apertura& apertura, const ElementoXML& e) {
-    if (!e.nodo.attribute("IDtipojuego")) return;
+    // A change of game would clear the marks of an imported base, which the file does not override.
+    if (apertura.Importada() || !e.nodo.attribute("IDtipojuego")) return;
     BloqueXML bloque;
     int32_t juego = PRIMITIVA;
     bloque.Valor(e, "IDtipojuego", juego);

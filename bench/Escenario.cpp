@@ -7,6 +7,7 @@
 
 #include "Boleto.h"
 #include "CalcularSistema.h"
+#include "CasosBloques.h"
 #include "CondicionesEjemplo.h"
 #include "GenerarApuestas.h"
 #include "Lectura.h"
@@ -43,6 +44,7 @@ Escenario::Escenario() {
         });
     trabajos_.back().patron = Patron::MemoriaFresca;
     AnotarFiltros();
+    AnotarFiltrosDeBloques();
     AnotarTraslados();
     AnotarNumeracion();
 }
@@ -69,6 +71,17 @@ void Escenario::AnotarFiltros() {
     for (const int k : {kSUMAS, kSUMASPORTRIOS, kDISTANCIAS, kHOMOLOGOS, kDECENAS, kSEGUIDOS, kTERMINACIONES})
         anotar(k, 4);
     anotar(kCOLINDANTES, 5);
+}
+
+void Escenario::AnotarFiltrosDeBloques() {
+    for (const CasoBloques& caso : CasosBloques())
+        Anotar(
+            caso.nombre, caso.permitido,
+            [this, &caso] {
+                caso.elegir(sesion_.condiciones);
+                ReponerApuestas();
+            },
+            [this, &caso] { return int64_t{TablaFiltros[caso.k].Filtrar(sesion_, entorno_)}; });
 }
 
 void Escenario::AnotarTraslados() {

@@ -42,6 +42,7 @@ class Escenario {
   private:
     void Anotar(std::string nombre, double permitido, std::function<void()> preparar, std::function<int64_t()> hacer);
     void AnotarFiltros();
+    void AnotarFiltrosDeBloques();
     void AnotarTraslados();
     void AnotarNumeracion();
     void ReponerApuestas();

@@ -15,6 +15,7 @@
 #include "Pintores.h"
 #include "TextoQt.h"
 #include "frmInforme.h"
+#include "frmVentanaProceso.h"
 
 namespace {
 
@@ -110,6 +111,11 @@ void CederTurno() {
     reloj.start();
 }
 
+void MostrarVentanaProceso(LogicaVentanaProceso& logica) {
+    frmVentanaProceso ventana(logica, QApplication::activeWindow());
+    MostrarModal(ventana, [&ventana] { ventana.Pintar(); });
+}
+
 void VerInforme(const std::string& ruta) {
     if (QDesktopServices::openUrl(QUrl::fromLocalFile(Q(ruta)))) return;
     frmInforme informe(Q(ruta), QApplication::activeWindow());
@@ -158,6 +164,7 @@ Entorno EntornoQt() {
         return Todos(Elegir(peticion, QFileDialog::AcceptOpen, QFileDialog::ExistingFiles));
     };
     entorno.CederTurno = CederTurno;
+    entorno.MostrarVentanaProceso = MostrarVentanaProceso;
     entorno.VerInforme = VerInforme;
     entorno.AbrirDireccion = AbrirDireccion;
     entorno.Ahora = AhoraDelSistema;

@@ -1,10 +1,12 @@
 #include "dialogos.h"
 
+#include "CalcularSistema.h"
 #include "DialogosFiltro.h"
 #include "TablaFiltros.h"
 #include "frmAcercaDe.h"
 #include "frmAciertos.h"
 #include "frmAlazar.h"
+#include "frmVentanaProceso.h"
 
 namespace {
 
@@ -17,6 +19,20 @@ std::unique_ptr<QDialog> Aciertos(Guion&) {
     static LogicaAciertos aciertos;
     aciertos = AbrirAciertos({0, 1, 0, 1, 1, 0, 0}, 0);
     return std::make_unique<frmAciertos>(aciertos, QStringLiteral("10 al 19 : "), nullptr);
+}
+
+// Idle after thirty cycles over fourteen numbers, with nothing conditioned.
+std::unique_ptr<QDialog> VentanaProceso(Guion& g) {
+    static std::unique_ptr<LogicaVentanaProceso> proceso;
+    for (FilaFiltro& fila : g.sesion.condiciones.lstFiltros) fila.Activo = false;
+    g.MarcarHasta(14);
+    g.MarcarDigitos({1});
+    CalcularSistema(g.sesion, g.entorno);
+    g.sesion.trabajo.Reduccion.TipoReduccion = 3;
+    proceso = std::make_unique<LogicaVentanaProceso>(g.sesion, g.entorno);
+    proceso->TopeCiclos = 30;
+    proceso->Activar();
+    return std::make_unique<frmVentanaProceso>(*proceso, nullptr);
 }
 
 } // namespace
@@ -35,6 +51,8 @@ const std::vector<DialogoProbado>& Dialogos() {
         DeFila("frmFiltroSUPERIORES", kSUPERIORESINFERIORES),
         DeFila("frmFiltroCOLINDANTES", kCOLINDANTES),
         DeFila("frmFiltroSUMASPORTRIOS", kSUMASPORTRIOS),
+        DeFila("frmReduccion", FilaReduccion),
+        {"frmVentanaProceso", VentanaProceso, true},
         {"frmAciertos", Aciertos},
         {"frmAlazar", [](Guion& g) { return std::make_unique<frmAlazar>(g.sesion.trabajo, nullptr); }},
         {"frmAcercaDe", [](Guion&) { return std::make_unique<frmAcercaDe>(nullptr); }},

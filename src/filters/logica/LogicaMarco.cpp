@@ -16,7 +16,7 @@ void LogicaMarco::PulsarActivar() {
 }
 
 std::string LogicaMarco::lblActivar() const {
-    return Activo() ? "Condición activada" : "Condición desactivada";
+    return std::string(k == FilaReduccion ? "Reducción " : "Condición ") + (Activo() ? "activada" : "desactivada");
 }
 
 void CambiarCampo(LogicaMarco& marco, std::string& campo, const std::string& texto) {

@@ -16,7 +16,7 @@ struct LogicaMarco {
     void ActivarFiltro();
     /// `imgActivar`: toggles the row, whatever the parameters are.
     void PulsarActivar();
-    /// The state in words: "Condición activada" or "Condición desactivada".
+    /// The state in words: "Condición activada" or "Condición desactivada", and so for the reduction.
     std::string lblActivar() const;
 };
 

@@ -9,6 +9,7 @@
 #include "frmFiltroSUMASPORTRIOS.h"
 #include "frmFiltroSencillo.h"
 #include "frmFiltroTERMINACIONES.h"
+#include "frmReduccion.h"
 
 namespace {
 
@@ -39,6 +40,7 @@ constexpr std::array<Fabrica, NFilas> Fabricas = [] {
     f[kSUPERIORESINFERIORES] = CrearSencillo<kSUPERIORESINFERIORES>;
     f[kCOLINDANTES] = CrearSencillo<kCOLINDANTES>;
     f[kSUMASPORTRIOS] = Crear<frmFiltroSUMASPORTRIOS>;
+    f[FilaReduccion] = Crear<frmReduccion>;
     return f;
 }();
 

@@ -1,7 +1,5 @@
 #include "PanelContadores.h"
 
-#include <QHBoxLayout>
-
 #include "TextoQt.h"
 
 namespace {
@@ -19,6 +17,8 @@ QFont Letra(const QFont& base, double factor, bool negrita) {
     return letra;
 }
 
+} // namespace
+
 QLabel* CrearContador(QWidget* panel, QHBoxLayout* fila, const QString& nombre, const QString& titulo) {
     auto* caja = new QVBoxLayout;
     caja->setSpacing(0);
@@ -29,7 +29,8 @@ QLabel* CrearContador(QWidget* panel, QHBoxLayout* fila, const QString& nombre, 
     cifra->setAccessibleDescription(Q("Apuestas ") + titulo.toLower());
     cifra->setTextInteractionFlags(Qt::TextSelectableByMouse);
     // The widest figure fits from the start, so that nothing moves when it comes.
-    const QFontMetrics medida(Letra(panel->font(), FactorCifra, true));
+    cifra->setFont(Letra(panel->font(), FactorCifra, true));
+    const QFontMetrics medida = cifra->fontMetrics();
     cifra->setMinimumWidth(medida.horizontalAdvance(Q("13.983.816")) + 8);
     cifra->setFixedHeight(medida.height() + 2);
     caja->addWidget(etiqueta);
@@ -45,8 +46,6 @@ void PonerFlecha(QWidget* panel, QHBoxLayout* fila) {
     flecha->setForegroundRole(QPalette::PlaceholderText);
     fila->addWidget(flecha);
 }
-
-} // namespace
 
 PanelContadores CrearPanelContadores(QWidget* padre) {
     PanelContadores p;

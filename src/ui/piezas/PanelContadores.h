@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
 
@@ -19,6 +20,10 @@ PanelContadores CrearPanelContadores(QWidget* padre);
 /// Shows the texts of the counters. `progreso`: the conditioned one tells what runs, in smaller letters.
 void PintarPanelContadores(const PanelContadores& panel, const QString& iniciales, const QString& condicionadas,
                            const QString& reducidas, const QString& base, bool progreso, bool calculando);
+
+/// One large figure under its title, added to `fila`, and the arrow between two of them.
+QLabel* CrearContador(QWidget* panel, QHBoxLayout* fila, const QString& nombre, const QString& titulo);
+void PonerFlecha(QWidget* panel, QHBoxLayout* fila);
 
 struct PanelEspera {
     QFrame* picVentanaEspera = nullptr;

@@ -1,0 +1,78 @@
+#include "RejillaPorcentajes.h"
+
+#include "TextoQt.h"
+
+namespace {
+
+// Paper and print of the ticket, the same under a light and a dark desktop.
+constexpr QColor Papel(0xFF, 0xFD, 0xF5), Tinta(0xB8, 0x10, 0x2A), Cifra(0x1C, 0x1C, 0x1C), Apagada(0x6B, 0x62, 0x5E);
+constexpr QColor ConApuestas(0xFF, 0xEF, 0x9E);
+constexpr int Hueco = 6, AltoCelda = 26;
+
+void Colorear(QLabel& etiqueta, const QColor& fondo, const QColor& texto) {
+    QPalette paleta = etiqueta.palette();
+    paleta.setColor(QPalette::Window, fondo);
+    paleta.setColor(QPalette::WindowText, texto);
+    etiqueta.setPalette(paleta);
+}
+
+void ColorearCelda(RejillaPorcentajes& r, size_t n) {
+    const QColor fondo = r.conApuestas[n] ? ConApuestas : Papel;
+    Colorear(*r.numero[n], fondo, Tinta);
+    Colorear(*r.lblN[n], fondo, r.conApuestas[n] ? Cifra : Apagada);
+}
+
+QLabel* CrearEtiqueta(Qt::Alignment lado, const QString& masAncha, bool negrita) {
+    auto* etiqueta = new QLabel;
+    QFont letra = etiqueta->font();
+    letra.setBold(negrita);
+    etiqueta->setFont(letra);
+    etiqueta->setAlignment(lado | Qt::AlignVCenter);
+    etiqueta->setAutoFillBackground(true);
+    etiqueta->setMargin(3);
+    etiqueta->setText(masAncha);
+    etiqueta->setMinimumSize(etiqueta->sizeHint().expandedTo({0, AltoCelda}));
+    etiqueta->clear();
+    return etiqueta;
+}
+
+} // namespace
+
+RejillaPorcentajes CrearRejillaPorcentajes(int maximo) {
+    RejillaPorcentajes r;
+    r.papel = new QFrame;
+    r.papel->setFrameStyle(QFrame::StyledPanel);
+    r.papel->setAutoFillBackground(true);
+    QPalette paleta = r.papel->palette();
+    paleta.setColor(QPalette::Window, Papel);
+    r.papel->setPalette(paleta);
+    r.rejilla = new QGridLayout(r.papel);
+    r.rejilla->setContentsMargins(Hueco, Hueco, Hueco, Hueco);
+    r.rejilla->setHorizontalSpacing(0);
+    r.rejilla->setVerticalSpacing(3);
+    const bool columnas = maximo == NumeroMaximoBoleto;
+    for (int n = 1; n <= maximo; ++n) {
+        const auto i = static_cast<size_t>(n);
+        const int fila = columnas ? n % 10 : (n - 1) / 5, columna = 3 * (columnas ? n / 10 : (n - 1) % 5);
+        r.numero[i] = CrearEtiqueta(Qt::AlignLeft, Q("49"), false);
+        r.numero[i]->setText(QString::number(n));
+        r.lblN[i] = CrearEtiqueta(Qt::AlignRight, Q("100%"), true);
+        r.lblN[i]->setObjectName(NombreIndexado("lblN", n - 1));
+        r.lblN[i]->setToolTip(Q("Parte de las apuestas que lleva el ") + QString::number(n));
+        r.rejilla->addWidget(r.numero[i], fila, columna);
+        r.rejilla->addWidget(r.lblN[i], fila, columna + 1);
+        ColorearCelda(r, i);
+    }
+    for (const int c : {2, 5, 8, 11}) r.rejilla->setColumnMinimumWidth(c, Hueco);
+    return r;
+}
+
+void PintarRejillaPorcentajes(RejillaPorcentajes& r, const std::array<std::string, NumeroMaximoBoleto + 1>& textos,
+                              const std::array<bool, NumeroMaximoBoleto + 1>& conApuestas) {
+    for (size_t n = 1; n < textos.size() && r.lblN[n] != nullptr; ++n) {
+        r.lblN[n]->setText(Q(textos[n]));
+        if (r.conApuestas[n] == conApuestas[n]) continue;
+        r.conApuestas[n] = conApuestas[n];
+        ColorearCelda(r, n);
+    }
+}

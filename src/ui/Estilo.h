@@ -3,7 +3,7 @@
 
 #include <QProxyStyle>
 
-/// Draws the edges of check boxes and text fields in a mix of text and background colours, where the
+/// Draws the edges of check boxes, radio buttons and text fields in a mix of text and background colours, where the
 /// toolkit's own style leaves them nearly as dark, or as light, as the background. A desktop with a
 /// style of its own keeps it untouched.
 class Estilo final : public QProxyStyle {

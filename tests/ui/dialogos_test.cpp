@@ -38,16 +38,23 @@ bool VaDespues(const QWidget& a, const QWidget& b, const QWidget& ventana) {
     return rb.top() >= ra.bottom() || (rb.left() >= ra.right() && rb.bottom() > ra.top());
 }
 
-// Columns are read one after the other, so that only neighbours in the same box are compared as told,
-// and the next box must not stand before the last.
+// The ancestor of `w`, or itself, that stands beside its like in `caja`.
+const QWidget& En(const QWidget& caja, const QWidget& w) {
+    const QWidget* hijo = &w;
+    while (hijo->parentWidget() != &caja) hijo = hijo->parentWidget();
+    return *hijo;
+}
+
+// Columns are read one after the other, so that two neighbours are compared by the boxes that hold
+// them in the smallest box that holds both.
 void ComprobarOrden(QDialog& dialogo) {
     const auto orden = EnOrdenDeTabulador(dialogo);
     for (size_t i = 1; i < orden.size(); ++i) {
         const QWidget &a = *orden[i - 1], &b = *orden[i];
-        const bool mismaCaja = a.parentWidget() == b.parentWidget();
-        const QWidget& cajaA = a.parentWidget() == &dialogo || mismaCaja ? a : *a.parentWidget();
-        const QWidget& cajaB = b.parentWidget() == &dialogo || mismaCaja ? b : *b.parentWidget();
-        EXPECT_TRUE(VaDespues(cajaA, cajaB, dialogo)) << Utf8(a.objectName()) << " -> " << Utf8(b.objectName());
+        const QWidget* comun = a.parentWidget();
+        while (!comun->isAncestorOf(&b)) comun = comun->parentWidget();
+        EXPECT_TRUE(VaDespues(En(*comun, a), En(*comun, b), dialogo))
+            << Utf8(a.objectName()) << " -> " << Utf8(b.objectName());
     }
 }
 

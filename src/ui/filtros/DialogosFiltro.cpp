@@ -5,6 +5,9 @@
 #include "LogicaAbrirFila.h"
 #include "Pintores.h"
 #include "frmFiltroDISTANCIAS.h"
+#include "frmFiltroGRUPOS.h"
+#include "frmFiltroGRUPOSENTRELIMITES.h"
+#include "frmFiltroPOSICIONES.h"
 #include "frmFiltroSUMAS.h"
 #include "frmFiltroSUMASPORTRIOS.h"
 #include "frmFiltroSencillo.h"
@@ -31,15 +34,18 @@ constexpr std::array<Fabrica, NFilas> Fabricas = [] {
     f[kALTOSBAJOS] = CrearSencillo<kALTOSBAJOS>;
     f[kDECENAS] = CrearSencillo<kDECENAS>;
     f[kDISTANCIAS] = Crear<frmFiltroDISTANCIAS>;
+    f[kGRUPOS] = Crear<frmFiltroGRUPOS>;
     f[kHOMOLOGOS] = CrearSencillo<kHOMOLOGOS>;
     f[kPARESIMPARES] = CrearSencillo<kPARESIMPARES>;
     f[kSEGUIDOS] = CrearSencillo<kSEGUIDOS>;
     f[kSUMAS] = Crear<frmFiltroSUMAS>;
     f[kTERMINACIONES] = Crear<frmFiltroTERMINACIONES>;
+    f[kPOSICIONES] = Crear<frmFiltroPOSICIONES>;
     f[kEXTERIORESINTERIORES] = CrearSencillo<kEXTERIORESINTERIORES>;
     f[kSUPERIORESINFERIORES] = CrearSencillo<kSUPERIORESINFERIORES>;
     f[kCOLINDANTES] = CrearSencillo<kCOLINDANTES>;
     f[kSUMASPORTRIOS] = Crear<frmFiltroSUMASPORTRIOS>;
+    f[kGRUPOSENTRELIMITES] = Crear<frmFiltroGRUPOSENTRELIMITES>;
     f[FilaReduccion] = Crear<frmReduccion>;
     return f;
 }();

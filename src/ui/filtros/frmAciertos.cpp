@@ -3,20 +3,10 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 
+#include "CeldaVerde.h"
 #include "MarcoFiltro.h"
 #include "Pintores.h"
 #include "TextoQt.h"
-
-namespace {
-
-// White on green when chosen and black on white when not, under any desktop palette.
-const char* const EstiloCelda = "QPushButton { background: white; color: black; border: 1px solid #767676;"
-                                "  border-radius: 4px; font-weight: bold; }"
-                                "QPushButton:checked { background: #1b7f3b; color: white; border-color: #145c2b; }"
-                                "QPushButton:hover { border: 2px solid #145c2b; }"
-                                "QPushButton:focus { border: 2px solid #1a5fb4; }";
-
-} // namespace
 
 frmAciertos::frmAciertos(LogicaAciertos& l, const QString& titulo, QWidget* padre) : QDialog(padre), logica(l) {
     setObjectName(Q("frmAciertos"));
@@ -29,15 +19,12 @@ frmAciertos::frmAciertos(LogicaAciertos& l, const QString& titulo, QWidget* padr
     auto* fila = new QHBoxLayout;
     fila->setSpacing(Paso);
     for (int valor = logica.MinimoAcierto; valor <= logica.MaximoAcierto; ++valor) {
-        auto* celda = CrearBoton(Utf8(NombreIndexado("lblAcierto", valor)), std::to_string(valor),
-                                 "Permitir o no " + std::to_string(valor) + (valor == 1 ? " acierto" : " aciertos"),
-                                 [this, valor] {
-                                     logica.Pulsar(valor);
-                                     Pintar();
-                                 });
-        celda->setCheckable(true);
-        celda->setFixedSize(40, 40);
-        celda->setStyleSheet(QLatin1String(EstiloCelda));
+        auto* celda = CrearCeldaVerde(
+            Utf8(NombreIndexado("lblAcierto", valor)), std::to_string(valor),
+            "Permitir o no " + std::to_string(valor) + (valor == 1 ? " acierto" : " aciertos"), 40, [this, valor] {
+                logica.Pulsar(valor);
+                Pintar();
+            });
         fila->addWidget(celda);
         celdas_.push_back(celda);
     }

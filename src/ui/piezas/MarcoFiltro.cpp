@@ -89,12 +89,13 @@ MarcoFiltro CrearMarcoFiltro(QDialog& dialogo, std::string_view nombre, std::str
     return piezas;
 }
 
-void TerminarMarco(MarcoFiltro& piezas, QDialog& dialogo, LogicaMarco& marco) {
+void TerminarMarco(MarcoFiltro& piezas, QDialog& dialogo, LogicaMarco& marco, std::function<void()> alVolver) {
     auto* pie = new QHBoxLayout;
     pie->setContentsMargins(0, Paso, 0, 0);
     piezas.imgActivar = CrearBoton("imgActivar", "Condición desactivada", "Activar/Desactivar condición", [] {});
     piezas.imgActivar->setIconSize(TamanioInterruptor);
-    piezas.imgVolver = CrearBoton("imgVolver", "Cerrar", "Cerrar condición", [&dialogo] { dialogo.close(); });
+    if (!alVolver) alVolver = [&dialogo] { dialogo.close(); };
+    piezas.imgVolver = CrearBoton("imgVolver", "Cerrar", "Cerrar condición", std::move(alVolver));
     pie->addWidget(piezas.imgActivar);
     pie->addStretch();
     pie->addWidget(piezas.imgVolver);

@@ -26,8 +26,9 @@ MarcoFiltro CrearMarcoFiltro(QDialog& dialogo, std::string_view nombre, std::str
                              const LogicaMarco& marco);
 
 /// Ends the dialog with its foot, which is the last on the way of the Tab key and so is made after the
-/// content. `imgVolver` closes as the window's cross does, through `reject`.
-void TerminarMarco(MarcoFiltro& piezas, QDialog& dialogo, LogicaMarco& marco);
+/// content. `imgVolver` closes as the window's cross does, through `reject`, unless `alVolver` says
+/// otherwise.
+void TerminarMarco(MarcoFiltro& piezas, QDialog& dialogo, LogicaMarco& marco, std::function<void()> alVolver = {});
 
 /// Shows the switch as the row says.
 void PintarMarco(const MarcoFiltro& piezas, const LogicaMarco& marco);

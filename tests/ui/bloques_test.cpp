@@ -1,0 +1,242 @@
+// The dialogs with several grids of numbers and numbered blocks, driven through their controls.
+#include <QAbstractButton>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QtTest/QTest>
+
+#include "DialogosFiltro.h"
+#include "Guion.h"
+#include "Sesiones.h"
+#include "TablaFiltros.h"
+#include "Ventanas.h"
+
+namespace {
+
+std::unique_ptr<QDialog> Abierto(Guion& guion, int k) {
+    auto dialogo = CrearDialogoFiltro(k, guion.sesion, guion.entorno, nullptr);
+    dialogo->show();
+    return dialogo;
+}
+
+bool Activa(const Guion& guion, int k) {
+    return guion.sesion.condiciones.lstFiltros[static_cast<size_t>(k)].Activo;
+}
+
+QAbstractButton* Boton(const QDialog& dialogo, const std::string& nombre) {
+    return Hijo<QAbstractButton>(dialogo, nombre);
+}
+
+void Pulsar(const QDialog& dialogo, const std::string& boton) {
+    QTest::mouseClick(Boton(dialogo, boton), Qt::LeftButton);
+}
+
+std::string Rotulo(const QDialog& dialogo, const std::string& nombre) {
+    return Utf8(Hijo<QLabel>(dialogo, nombre)->text());
+}
+
+std::string Texto(const QDialog& dialogo, const std::string& campo) {
+    return Utf8(Hijo<QLineEdit>(dialogo, campo)->text());
+}
+
+void IrA(const QDialog& dialogo, const std::string& grupo) {
+    auto* campo = Hijo<QLineEdit>(dialogo, "txtNumeroGrupo");
+    campo->selectAll();
+    QTest::keyClicks(campo, Q(grupo));
+    QTest::keyClick(campo, Qt::Key_Return);
+}
+
+void ElegirAcierto(const QDialog& dialogo, size_t tabla, int acierto) {
+    EnModal([&](QDialog& aciertos) { Pulsar(aciertos, "lblAcierto_" + std::to_string(acierto)); });
+    Pulsar(dialogo, "cmdModificar_" + std::to_string(tabla));
+}
+
+std::string Celda(size_t panel, int numero) {
+    const std::string indice = "_" + std::to_string(numero - 1);
+    return panel == 0 ? "lblNumero" + indice : "lblNumero_G" + std::to_string(panel + 1) + indice;
+}
+
+using Marcados = std::vector<int>;
+
+Marcados Numeros(const MarcasNumeros& marcas) {
+    Marcados numeros;
+    for (size_t n = 1; n < marcas.size(); ++n)
+        if (marcas[n] == 1) numeros.push_back(static_cast<int>(n));
+    return numeros;
+}
+
+/// The dialogs with grids: how many each has, and the flags of a grid when it opens.
+struct ConRejillas {
+    int k;
+    size_t rejillas;
+    std::function<const MarcasNumeros&(const Condiciones&, size_t)> marcas;
+};
+
+const ConRejillas ConRejilla[] = {{kPOSICIONES, 6, [](auto& c, size_t i) -> auto& {return c.POSICIONES.Bola[i];
+} // namespace
+}
+, {kGRUPOS, 3, [](auto& c, size_t i) -> auto& {return c.GRUPOS.grupo[i].numeros;
+}
+}
+, {kGRUPOSENTRELIMITES, 3, [](auto& c, size_t i) -> auto& {return c.GRUPOSENTRELIMITES.grupo[i].numeros;
+}
+}
+,
+}
+;
+
+} // namespace
+
+TEST(DialogosDeBloques, CadaCeldaLlegaASuMarcaYBorrarSoloASuRejilla) {
+    for (const ConRejillas& d : ConRejilla) {
+        SCOPED_TRACE(d.k);
+        Guion guion;
+        const auto dialogo = Abierto(guion, d.k);
+        for (size_t i = 0; i < d.rejillas; ++i) {
+            EXPECT_FALSE(Activa(guion, d.k));
+            const int otro = static_cast<int>(i) + 10;
+            for (const int n : {1, otro, 49}) Pulsar(*dialogo, Celda(i, n));
+            EXPECT_EQ(Numeros(d.marcas(guion.sesion.condiciones, i)), (Marcados{1, otro, 49}));
+            EXPECT_TRUE(Boton(*dialogo, Celda(i, otro))->isChecked());
+            EXPECT_TRUE(Activa(guion, d.k));
+            Pulsar(*dialogo, Celda(i, 1));
+            EXPECT_FALSE(Boton(*dialogo, Celda(i, 1))->isChecked());
+            Pulsar(*dialogo, "imgActivar");
+        }
+        Pulsar(*dialogo, "imgININumeros_1");
+        for (size_t i = 0; i < d.rejillas; ++i)
+            EXPECT_EQ(Numeros(d.marcas(guion.sesion.condiciones, i)),
+                      i == 1 ? Marcados{} : (Marcados{static_cast<int>(i) + 10, 49}));
+        EXPECT_TRUE(Activa(guion, d.k));
+    }
+}
+
+TEST(DialogosDeBloques, EnEurodreamsHayCuarentaNumeros) {
+    for (const ConRejillas& d : ConRejilla) {
+        Guion guion;
+        CambiarJuego(guion.sesion, EURODREAMS);
+        const auto dialogo = Abierto(guion, d.k);
+        EXPECT_TRUE(Boton(*dialogo, Celda(d.rejillas - 1, 40))->isVisible());
+        EXPECT_FALSE(Boton(*dialogo, Celda(d.rejillas - 1, 41))->isVisible());
+    }
+}
+
+TEST(DialogosDeBloques, ArrastrarMarcaYDesmarcaVarios) {
+    for (const ConRejillas& d : ConRejilla) {
+        Guion guion;
+        const auto dialogo = Abierto(guion, d.k);
+        const auto arrastrar = [&] {
+            auto* desde = Boton(*dialogo, Celda(2, 11));
+            QTest::mousePress(desde, Qt::LeftButton);
+            for (const int n : {12, 13}) {
+                const QPoint en = desde->mapFromGlobal(
+                    Boton(*dialogo, Celda(2, n))->mapToGlobal(Boton(*dialogo, Celda(2, n))->rect().center()));
+                QMouseEvent mover(QEvent::MouseMove, en, desde->mapToGlobal(en), Qt::NoButton, Qt::LeftButton,
+                                  Qt::NoModifier);
+                QApplication::sendEvent(desde, &mover);
+            }
+            QTest::mouseRelease(desde, Qt::LeftButton);
+        };
+        arrastrar();
+        EXPECT_EQ(Numeros(d.marcas(guion.sesion.condiciones, 2)), (Marcados{11, 12, 13}));
+        arrastrar();
+        EXPECT_EQ(Numeros(d.marcas(guion.sesion.condiciones, 2)), Marcados{});
+    }
+}
+
+TEST(DialogosDeBloques, CopiarYPegarVanALaRejillaConElFoco) {
+    for (const ConRejillas& d : ConRejilla) {
+        Guion guion;
+        const auto dialogo = Abierto(guion, d.k);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(dialogo.get()));
+        QApplication::clipboard()->setText(QStringLiteral("3, 7 12"));
+        auto* celda = Boton(*dialogo, Celda(1, 5));
+        celda->setFocus();
+        QTest::keyClick(celda, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(Numeros(d.marcas(guion.sesion.condiciones, 1)), (Marcados{3, 7, 12}));
+        EXPECT_EQ(Numeros(d.marcas(guion.sesion.condiciones, 0)), Marcados{});
+        EXPECT_TRUE(Boton(*dialogo, Celda(1, 12))->isChecked());
+        QApplication::clipboard()->clear();
+        QTest::keyClick(celda, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(Utf8(QApplication::clipboard()->text()), "3, 7, 12");
+    }
+}
+
+TEST(DialogosDeBloques, PasarDePaginaEIrAUnGrupo) {
+    for (const int k : {kGRUPOS, kGRUPOSENTRELIMITES}) {
+        SCOPED_TRACE(k);
+        Guion guion;
+        guion.sesion.condiciones.GRUPOS.grupo[209].numeros[8] = 1;
+        guion.sesion.condiciones.GRUPOSENTRELIMITES.grupo[209].numeros[8] = 1;
+        const auto dialogo = Abierto(guion, k);
+        EXPECT_FALSE(Boton(*dialogo, "cmdMENOSBloque")->isEnabled());
+        Pulsar(*dialogo, "cmdMASBloque");
+        EXPECT_EQ(Rotulo(*dialogo, "lblTitGrupo_0"), "GRUPO 4");
+        Pulsar(*dialogo, "cmdMENOSBloque");
+        EXPECT_EQ(Rotulo(*dialogo, "lblTitGrupo_2"), "GRUPO 3");
+        EXPECT_FALSE(Boton(*dialogo, Celda(2, 8))->isChecked());
+        IrA(*dialogo, "210");
+        EXPECT_EQ(Rotulo(*dialogo, "lblTitGrupo_2"), "GRUPO 210");
+        EXPECT_TRUE(Boton(*dialogo, Celda(2, 8))->isChecked());
+        EXPECT_FALSE(Boton(*dialogo, "cmdMASBloque")->isEnabled());
+        EXPECT_EQ(Utf8(Hijo<QLineEdit>(*dialogo, "txtNumeroGrupo")->selectedText()), "210");
+        EXPECT_EQ(guion.Cajas, Textos{});
+        IrA(*dialogo, "211");
+        EXPECT_EQ(guion.Cajas, Textos{"[X] ERROR: EL NUMERO DE GRUPO DEBE ESTAR ENTRE 1 y 70"});
+        EXPECT_EQ(Rotulo(*dialogo, "lblTitGrupo_2"), "GRUPO 210");
+        EXPECT_FALSE(Activa(guion, k));
+    }
+}
+
+TEST(DialogosDeBloques, GRUPOSPideAciertosYPosicionesAntesDeCerrar) {
+    Guion guion;
+    const auto dialogo = Abierto(guion, kGRUPOS);
+    const GrupoNumeros& grupo = guion.sesion.condiciones.GRUPOS.grupo[4];
+    Pulsar(*dialogo, "cmdMASBloque");
+    Pulsar(*dialogo, Celda(1, 7));
+    IrA(*dialogo, "60");
+    dialogo->close();
+    EXPECT_TRUE(dialogo->isVisible());
+    EXPECT_EQ(Rotulo(*dialogo, "lblTitGrupo_2"), "GRUPO 60");
+    IrA(*dialogo, "5");
+    ElegirAcierto(*dialogo, 1, 2);
+    EXPECT_EQ(Texto(*dialogo, "txtAciertos_1"), "2");
+    for (int p = 1; p < 6; ++p) Pulsar(*dialogo, "lblAciertosG2_" + std::to_string(p));
+    EXPECT_EQ(grupo.posiciones, (std::array<uint8_t, 6>{1, 0, 0, 0, 0, 0}));
+    EXPECT_FALSE(Boton(*dialogo, "lblAciertosG2_5")->isChecked());
+    Pulsar(*dialogo, "imgVolver");
+    EXPECT_TRUE(dialogo->isVisible());
+    Pulsar(*dialogo, "lblAciertosG2_3");
+    Pulsar(*dialogo, "imgVolver");
+    EXPECT_FALSE(dialogo->isVisible());
+    EXPECT_EQ(guion.Cajas, (Textos{"[X] ERROR en GRUPO5 : Debe rellenar al menos un acierto",
+                                   "[X] ERROR en GRUPO5 : El acierto máximo es mayor que las posiciones marcadas"}));
+    EXPECT_EQ(TextoLista(grupo.aciertos), "2");
+}
+
+TEST(DialogosDeBloques, GRUPOSENTRELIMITESGuardaLosLimitesYRechazaLosCruzados) {
+    Guion guion;
+    auto dialogo = Abierto(guion, kGRUPOSENTRELIMITES);
+    auto* minimo = Hijo<QComboBox>(*dialogo, "cboIntervalo1");
+    EXPECT_EQ(minimo->count(), 211);
+    EXPECT_EQ(Utf8(Hijo<QComboBox>(*dialogo, "cboIntervalo2")->currentText()), "210");
+    EXPECT_FALSE(Activa(guion, kGRUPOSENTRELIMITES));
+    minimo->setCurrentIndex(3);
+    EXPECT_TRUE(Activa(guion, kGRUPOSENTRELIMITES));
+    Hijo<QComboBox>(*dialogo, "cboIntervalo2")->setCurrentIndex(2);
+    dialogo->close();
+    EXPECT_TRUE(dialogo->isVisible());
+    EXPECT_EQ(guion.Cajas,
+              Textos{"[X] ERROR en LIMITE DE GRUPOS : El número de aciertos máximo es menor que el mínimo"});
+    minimo->setCurrentIndex(1);
+    Pulsar(*dialogo, Celda(0, 9));
+    ElegirAcierto(*dialogo, 0, 1);
+    dialogo->close();
+    EXPECT_FALSE(dialogo->isVisible());
+    dialogo = Abierto(guion, kGRUPOSENTRELIMITES);
+    EXPECT_EQ(Utf8(Hijo<QComboBox>(*dialogo, "cboIntervalo1")->currentText()), "1");
+    EXPECT_EQ(Utf8(Hijo<QComboBox>(*dialogo, "cboIntervalo2")->currentText()), "2");
+    EXPECT_EQ(Texto(*dialogo, "txtAciertos_0"), "1");
+    EXPECT_TRUE(Boton(*dialogo, Celda(0, 9))->isChecked());
+}

@@ -8,7 +8,7 @@ namespace {
 
 using Combinacion = std::array<uint8_t, 6>;
 
-// The steps as they are told for six of 49, with the counts taken from products of doubles.
+// The plain steps: candidates for each element are counted off one by one, in products of doubles.
 int32_t CSNLiteral(int k, int n, const uint8_t* c) {
     double total = 0, ultimo = 0;
     int w = 0;

@@ -31,19 +31,29 @@ void RepartirAlto(QTreeWidget& lista) {
 class Ordenes final : public QObject {
   public:
     Ordenes(QTreeWidget* lista, std::function<void(int)> alternar, std::function<void(int)> abrir)
-        : QObject(lista), lista_(lista), alternar_(std::move(alternar)), abrir_(std::move(abrir)) {
+        : QObject(lista), lista_(lista), interior_(lista->viewport()), alternar_(std::move(alternar)),
+          abrir_(std::move(abrir)) {
         lista->installEventFilter(this);
-        lista->viewport()->installEventFilter(this);
+        interior_->installEventFilter(this);
     }
 
+    // The viewport still tells its events while the list around it is being destroyed, so nothing is
+    // asked of the list before the kind of event is known.
     bool eventFilter(QObject* objeto, QEvent* evento) override {
-        if (evento->type() == QEvent::KeyPress && objeto == lista_)
-            return Tecla(static_cast<QKeyEvent*>(evento)->key());
-        if (objeto == lista_->viewport() && evento->type() == QEvent::Resize) RepartirAlto(*lista_);
-        if (objeto != lista_->viewport() || !lista_->isEnabled()) return false;
-        if (evento->type() == QEvent::MouseButtonDblClick) return Raton(evento, Qt::LeftButton, abrir_);
-        if (evento->type() == QEvent::MouseButtonRelease) return Raton(evento, Qt::RightButton, alternar_);
-        return false;
+        const bool interior = objeto == interior_;
+        switch (evento->type()) {
+        case QEvent::KeyPress:
+            return !interior && Tecla(static_cast<QKeyEvent*>(evento)->key());
+        case QEvent::Resize:
+            if (interior) RepartirAlto(*lista_);
+            return false;
+        case QEvent::MouseButtonDblClick:
+            return interior && lista_->isEnabled() && Raton(evento, Qt::LeftButton, abrir_);
+        case QEvent::MouseButtonRelease:
+            return interior && lista_->isEnabled() && Raton(evento, Qt::RightButton, alternar_);
+        default:
+            return false;
+        }
     }
 
   private:
@@ -65,6 +75,7 @@ class Ordenes final : public QObject {
     }
 
     QTreeWidget* lista_;
+    QWidget* interior_;
     std::function<void(int)> alternar_, abrir_;
 };
 

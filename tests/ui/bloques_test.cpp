@@ -240,3 +240,103 @@ TEST(DialogosDeBloques, GRUPOSENTRELIMITESGuardaLosLimitesYRechazaLosCruzados) {
     EXPECT_EQ(Texto(*dialogo, "txtAciertos_0"), "1");
     EXPECT_TRUE(Boton(*dialogo, Celda(0, 9))->isChecked());
 }
+
+TEST(DialogosDeBloques, GRURELACIONADOSPasaDeGrupoYCompactaAlCerrar) {
+    Guion guion;
+    auto dialogo = Abierto(guion, kGRUPOSRELACIONADOS);
+    IrA(*dialogo, "61");
+    EXPECT_EQ(guion.Cajas, Textos{"[X] ERROR: EL NUMERO DE GRUPO DEBE ESTAR ENTRE 1 y 60"});
+    IrA(*dialogo, "60");
+    EXPECT_EQ(Rotulo(*dialogo, "lblNumeroGrupo"), "GRUPO 60");
+    EXPECT_EQ(Rotulo(*dialogo, "lblTitGrupo_5"), "SUBGRUPO 360");
+    EXPECT_FALSE(Boton(*dialogo, "cmdMASBloque")->isEnabled());
+    Pulsar(*dialogo, "cmdMENOSBloque");
+    EXPECT_EQ(Rotulo(*dialogo, "lblTitGrupo_0"), "SUBGRUPO 349");
+    Pulsar(*dialogo, Celda(2, 8));
+    Pulsar(*dialogo, "cmdMASBloque");
+    EXPECT_FALSE(Boton(*dialogo, Celda(2, 8))->isChecked());
+    Pulsar(*dialogo, "imgVolver");
+    EXPECT_TRUE(dialogo->isVisible());
+    EXPECT_EQ(guion.Cajas.back(),
+              "[X] ERROR en GRUPO59 : Si activa un subgrupo, debe de haber al menos una condición marcada");
+    IrA(*dialogo, "59");
+    ElegirAcierto(*dialogo, 4, 3);
+    EXPECT_EQ(Texto(*dialogo, "txtAciertos_4"), "3");
+    Pulsar(*dialogo, "imgVolver");
+    EXPECT_FALSE(dialogo->isVisible());
+    const RegistroGRUPOSRELACIONADOS& registro = guion.sesion.condiciones.GRUPOSRELACIONADOS;
+    EXPECT_EQ(Numeros(registro.subgrupos[348]), Marcados{8});
+    EXPECT_EQ(Numeros(registro.subgrupos[350]), Marcados{});
+    EXPECT_EQ(TextoLista(registro.condiciones[352]), "3");
+    dialogo = Abierto(guion, kGRUPOSRELACIONADOS);
+    EXPECT_EQ(Rotulo(*dialogo, "lblNumeroGrupo"), "GRUPO 1");
+}
+
+TEST(DialogosDeBloques, VALORACIONESSumaGuardaYRechazaElGrupoAMedias) {
+    Guion guion;
+    guion.Marcar({3, 7, 12, 30, 41, 49});
+    auto dialogo = Abierto(guion, kVALORACIONES);
+    EXPECT_FALSE(Activa(guion, kVALORACIONES));
+    auto* siete = Hijo<QComboBox>(*dialogo, "cboPorcentaje_6");
+    EXPECT_EQ(siete->count(), 101);
+    EXPECT_EQ(Utf8(siete->itemText(0)), "------");
+    const auto* ocho = Hijo<QComboBox>(*dialogo, "cboPorcentaje_7");
+    EXPECT_EQ(ocho->count(), 1);
+    EXPECT_FALSE(ocho->isEnabled());
+    siete->setCurrentIndex(60);
+    Hijo<QComboBox>(*dialogo, "cboPorcentaje_48")->setCurrentIndex(100);
+    EXPECT_TRUE(Activa(guion, kVALORACIONES));
+    EXPECT_EQ(Rotulo(*dialogo, "lblSumaPorcentajes"), "160");
+    EXPECT_EQ(Rotulo(*dialogo, "lblTitNumeros"), "2 Valoraciones Seleccionadas");
+    Pulsar(*dialogo, "cmdMASBloque");
+    Pulsar(*dialogo, "imgVolver");
+    EXPECT_TRUE(dialogo->isVisible());
+    EXPECT_EQ(guion.Cajas, Textos(2, "[X] ERROR GRUPO 1: Hay seleccionadas valoraciones de números y no ha activado "
+                                     "ningún intervalo"));
+    EXPECT_EQ(Rotulo(*dialogo, "lblNumeroGrupo"), "GRUPO 1");
+    for (const std::string campo : {"txtValoracionMinima_2", "txtValoracionMaxima_2"}) {
+        Hijo<QLineEdit>(*dialogo, campo)->selectAll();
+        QTest::keyClicks(Hijo<QLineEdit>(*dialogo, campo), QStringLiteral("160"));
+    }
+    Pulsar(*dialogo, "cmdMASBloque");
+    EXPECT_EQ(Rotulo(*dialogo, "lblNumeroGrupo"), "GRUPO 2");
+    EXPECT_EQ(siete->currentIndex(), 0);
+    EXPECT_EQ(Texto(*dialogo, "txtValoracionMaxima_2"), "0");
+    Pulsar(*dialogo, "imgVolver");
+    EXPECT_FALSE(dialogo->isVisible());
+    const GrupoValoraciones& grupo = guion.sesion.condiciones.VALORACIONES.grupo[0];
+    EXPECT_EQ(grupo.valoraciones[7], 60);
+    EXPECT_EQ(grupo.valoraciones[49], 100);
+    EXPECT_EQ(grupo.intervalos[2], (Intervalo{160, 160}));
+}
+
+TEST(DialogosDeBloques, VALORACIONESEscribeYLeeSuFichero) {
+    CarpetaTemporal carpeta;
+    Guion guion;
+    guion.Marcar({3, 7});
+    const auto dialogo = Abierto(guion, kVALORACIONES);
+    auto* siete = Hijo<QComboBox>(*dialogo, "cboPorcentaje_6");
+    siete->setCurrentIndex(35);
+    guion.Ficheros = {carpeta.Ruta("marcas"), carpeta.Ruta("marcas.txt"), carpeta.Ruta("no_hay.txt")};
+    Pulsar(*dialogo, "cmdGuardarPorcentajes");
+    Pulsar(*dialogo, "imgININumeros");
+    EXPECT_EQ(siete->currentIndex(), 0);
+    EXPECT_EQ(Rotulo(*dialogo, "lblSumaPorcentajes"), "0");
+    Pulsar(*dialogo, "cmdAbrirPorcentajes");
+    EXPECT_EQ(siete->currentIndex(), 35);
+    EXPECT_EQ(Rotulo(*dialogo, "lblSumaPorcentajes"), "35");
+    EXPECT_EQ(guion.Cajas, Textos{});
+    Pulsar(*dialogo, "cmdAbrirPorcentajes");
+    EXPECT_EQ(guion.Cajas, Textos{"[X] ERROR AL CARGAR ALGUNOS O TODOS LOS VALORES DE LOS PORCENTAJES"});
+    EXPECT_EQ(siete->currentIndex(), 35);
+}
+
+TEST(DialogosDeBloques, VALORACIONESSeActivaAlEnfocarUnaLista) {
+    Guion guion;
+    guion.Marcar({3});
+    const auto dialogo = Abierto(guion, kVALORACIONES);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialogo.get()));
+    EXPECT_FALSE(Activa(guion, kVALORACIONES));
+    Hijo<QComboBox>(*dialogo, "cboPorcentaje_2")->setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(Activa(guion, kVALORACIONES));
+}

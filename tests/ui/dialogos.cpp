@@ -35,6 +35,12 @@ std::unique_ptr<QDialog> VentanaProceso(Guion& g) {
     return std::make_unique<frmVentanaProceso>(*proceso, nullptr);
 }
 
+// A base, without which no number takes a mark.
+std::unique_ptr<QDialog> Valoraciones(Guion& g) {
+    g.MarcarHasta(14);
+    return CrearDialogoFiltro(kVALORACIONES, g.sesion, g.entorno, nullptr);
+}
+
 } // namespace
 
 const std::vector<DialogoProbado>& Dialogos() {
@@ -43,6 +49,7 @@ const std::vector<DialogoProbado>& Dialogos() {
         DeFila("frmFiltroDECENAS", kDECENAS),
         DeFila("frmFiltroDISTANCIAS", kDISTANCIAS),
         DeFila("frmFiltroGRUPOS", kGRUPOS),
+        DeFila("frmFiltroGRURELACIONADOS", kGRUPOSRELACIONADOS, true),
         DeFila("frmFiltroHOMOLOGOS", kHOMOLOGOS),
         DeFila("frmFiltroPARESIMPARES", kPARESIMPARES),
         DeFila("frmFiltroSEGUIDOS", kSEGUIDOS),
@@ -53,6 +60,7 @@ const std::vector<DialogoProbado>& Dialogos() {
         DeFila("frmFiltroSUPERIORES", kSUPERIORESINFERIORES),
         DeFila("frmFiltroCOLINDANTES", kCOLINDANTES),
         DeFila("frmFiltroSUMASPORTRIOS", kSUMASPORTRIOS),
+        {"frmFiltroVALORACIONES", Valoraciones, true},
         DeFila("frmFiltroGRUPOSENTRELIMITES", kGRUPOSENTRELIMITES),
         DeFila("frmReduccion", FilaReduccion),
         {"frmVentanaProceso", VentanaProceso, true},

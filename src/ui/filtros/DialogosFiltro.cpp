@@ -7,11 +7,13 @@
 #include "frmFiltroDISTANCIAS.h"
 #include "frmFiltroGRUPOS.h"
 #include "frmFiltroGRUPOSENTRELIMITES.h"
+#include "frmFiltroGRURELACIONADOS.h"
 #include "frmFiltroPOSICIONES.h"
 #include "frmFiltroSUMAS.h"
 #include "frmFiltroSUMASPORTRIOS.h"
 #include "frmFiltroSencillo.h"
 #include "frmFiltroTERMINACIONES.h"
+#include "frmFiltroVALORACIONES.h"
 #include "frmReduccion.h"
 
 namespace {
@@ -35,6 +37,7 @@ constexpr std::array<Fabrica, NFilas> Fabricas = [] {
     f[kDECENAS] = CrearSencillo<kDECENAS>;
     f[kDISTANCIAS] = Crear<frmFiltroDISTANCIAS>;
     f[kGRUPOS] = Crear<frmFiltroGRUPOS>;
+    f[kGRUPOSRELACIONADOS] = Crear<frmFiltroGRURELACIONADOS>;
     f[kHOMOLOGOS] = CrearSencillo<kHOMOLOGOS>;
     f[kPARESIMPARES] = CrearSencillo<kPARESIMPARES>;
     f[kSEGUIDOS] = CrearSencillo<kSEGUIDOS>;
@@ -45,6 +48,7 @@ constexpr std::array<Fabrica, NFilas> Fabricas = [] {
     f[kSUPERIORESINFERIORES] = CrearSencillo<kSUPERIORESINFERIORES>;
     f[kCOLINDANTES] = CrearSencillo<kCOLINDANTES>;
     f[kSUMASPORTRIOS] = Crear<frmFiltroSUMASPORTRIOS>;
+    f[kVALORACIONES] = Crear<frmFiltroVALORACIONES>;
     f[kGRUPOSENTRELIMITES] = Crear<frmFiltroGRUPOSENTRELIMITES>;
     f[FilaReduccion] = Crear<frmReduccion>;
     return f;

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QtTest/QTest>
 
 #include "DialogosFiltro.h"
@@ -339,4 +340,60 @@ TEST(DialogosDeBloques, VALORACIONESSeActivaAlEnfocarUnaLista) {
     EXPECT_FALSE(Activa(guion, kVALORACIONES));
     Hijo<QComboBox>(*dialogo, "cboPorcentaje_2")->setFocus(Qt::TabFocusReason);
     EXPECT_TRUE(Activa(guion, kVALORACIONES));
+}
+
+TEST(DialogosDeBloques, CRGuardaPorcentajesYCoeficientes) {
+    Guion guion;
+    auto dialogo = Abierto(guion, kCOEFICIENTERENTABILIDAD);
+    auto* lista = Hijo<QListWidget>(*dialogo, "lstCR");
+    EXPECT_EQ(lista->count(), 100);
+    EXPECT_EQ(Utf8(lista->item(99)->text()), std::string("9") + guion.entorno.SeparadorDecimal + "9");
+    EXPECT_FALSE(Activa(guion, kCOEFICIENTERENTABILIDAD));
+    lista->setFocus();
+    lista->setCurrentRow(13);
+    QTest::keyClick(lista, Qt::Key_Space);
+    EXPECT_TRUE(Activa(guion, kCOEFICIENTERENTABILIDAD));
+    auto* apostado = Hijo<QLineEdit>(*dialogo, "txtPorcentajesApostados_48");
+    auto* real = Hijo<QLineEdit>(*dialogo, "txtPorcentajesReales_0");
+    apostado->selectAll();
+    QTest::keyClicks(apostado, QStringLiteral("x7"));
+    real->clear();
+    QTest::keyClicks(real, QStringLiteral("8"));
+    QTest::keyClick(real, Qt::Key_Backspace);
+    Pulsar(*dialogo, "imgCalcular");
+    EXPECT_EQ(guion.Cajas, Textos{"[X] ERROR EN NUMERO 1: EL % ESTA EN BLANCO (% REALES)"});
+    EXPECT_TRUE(apostado->isEnabled());
+    Pulsar(*dialogo, "imgVolver");
+    EXPECT_FALSE(dialogo->isVisible());
+    const RegistroCOEFICIENTERENTABILIDAD& registro = guion.sesion.condiciones.COEFICIENTERENTABILIDAD;
+    EXPECT_EQ(registro.RangosCR[13], 1);
+    EXPECT_EQ(registro.PorcentajesApostados[49], 7);
+    EXPECT_EQ(registro.PorcentajesReales[1], 12.25);
+    dialogo = Abierto(guion, kCOEFICIENTERENTABILIDAD);
+    EXPECT_EQ(Hijo<QListWidget>(*dialogo, "lstCR")->item(13)->checkState(), Qt::Checked);
+    EXPECT_EQ(Hijo<QListWidget>(*dialogo, "lstCR")->item(14)->checkState(), Qt::Unchecked);
+    EXPECT_EQ(Texto(*dialogo, "txtPorcentajesApostados_48"), "7");
+}
+
+TEST(DialogosDeBloques, CREscribeYLeeCadaTabla) {
+    CarpetaTemporal carpeta;
+    for (const std::string tabla : {"Apostados", "Reales"}) {
+        SCOPED_TRACE(tabla);
+        Guion guion;
+        const auto dialogo = Abierto(guion, kCOEFICIENTERENTABILIDAD);
+        const std::string ultimo = "txtPorcentajes" + tabla + "_48";
+        const std::string otro = tabla == "Reales" ? "txtPorcentajesApostados_48" : "txtPorcentajesReales_48";
+        const std::string antes = Texto(*dialogo, ultimo), deOtro = Texto(*dialogo, otro);
+        guion.Ficheros = {carpeta.Ruta(tabla), carpeta.Ruta(tabla + ".txt"), carpeta.Ruta("no_hay.txt")};
+        Pulsar(*dialogo, "imgGuardarPorcentajes" + tabla);
+        Pulsar(*dialogo, "imgINIPorcentajes" + tabla);
+        EXPECT_EQ(Texto(*dialogo, ultimo), "0");
+        EXPECT_EQ(Texto(*dialogo, otro), deOtro);
+        EXPECT_TRUE(Activa(guion, kCOEFICIENTERENTABILIDAD));
+        Pulsar(*dialogo, "imgAbrirPorcentajes" + tabla);
+        EXPECT_EQ(Texto(*dialogo, ultimo), antes);
+        EXPECT_EQ(guion.Cajas, Textos{});
+        Pulsar(*dialogo, "imgAbrirPorcentajes" + tabla);
+        EXPECT_EQ(guion.Cajas, Textos{"[X] ERROR AL ABRIR LOS PORCENTAJES"});
+    }
 }

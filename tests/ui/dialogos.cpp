@@ -61,6 +61,7 @@ const std::vector<DialogoProbado>& Dialogos() {
         DeFila("frmFiltroCOLINDANTES", kCOLINDANTES),
         DeFila("frmFiltroSUMASPORTRIOS", kSUMASPORTRIOS),
         {"frmFiltroVALORACIONES", Valoraciones, true},
+        DeFila("frmFiltroCR", kCOEFICIENTERENTABILIDAD, true),
         DeFila("frmFiltroGRUPOSENTRELIMITES", kGRUPOSENTRELIMITES),
         DeFila("frmReduccion", FilaReduccion),
         {"frmVentanaProceso", VentanaProceso, true},

@@ -4,6 +4,7 @@
 
 #include "LogicaAbrirFila.h"
 #include "Pintores.h"
+#include "frmFiltroCR.h"
 #include "frmFiltroDISTANCIAS.h"
 #include "frmFiltroGRUPOS.h"
 #include "frmFiltroGRUPOSENTRELIMITES.h"
@@ -49,6 +50,7 @@ constexpr std::array<Fabrica, NFilas> Fabricas = [] {
     f[kCOLINDANTES] = CrearSencillo<kCOLINDANTES>;
     f[kSUMASPORTRIOS] = Crear<frmFiltroSUMASPORTRIOS>;
     f[kVALORACIONES] = Crear<frmFiltroVALORACIONES>;
+    f[kCOEFICIENTERENTABILIDAD] = Crear<frmFiltroCR>;
     f[kGRUPOSENTRELIMITES] = Crear<frmFiltroGRUPOSENTRELIMITES>;
     f[FilaReduccion] = Crear<frmReduccion>;
     return f;

@@ -8,17 +8,11 @@
 
 namespace {
 
-// Light red where a mark can be given and white where not, with dark text under any desktop palette.
+// Light red where a mark can be given and white where not.
 QPalette ColoresLista(const QPalette& base) {
-    QPalette paleta = base;
-    const QColor rojo(0xFF, 0xD9, 0xD6), tinta(0x1C, 0x1C, 0x1C), apagada(0x6B, 0x62, 0x5E);
-    for (const auto rol : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText}) {
-        paleta.setColor(rol, tinta);
-        paleta.setColor(QPalette::Disabled, rol, apagada);
-    }
-    for (const auto rol : {QPalette::Base, QPalette::Window}) paleta.setColor(rol, Qt::white);
-    paleta.setColor(QPalette::Button, rojo);
-    paleta.setColor(QPalette::Disabled, QPalette::Button, Qt::white);
+    QPalette paleta = ColoresSobrePapel(base);
+    for (const auto grupo : {QPalette::Active, QPalette::Inactive})
+        paleta.setColor(grupo, QPalette::Button, QColor(0xFF, 0xD9, 0xD6));
     return paleta;
 }
 

@@ -9,6 +9,14 @@
 
 namespace {
 
+// Where the number 0 would be, as high as its neighbours.
+void PonerHueco(QGridLayout& rejilla, const QWidget& control) {
+    auto* hueco = new QWidget;
+    hueco->setFixedHeight(control.sizeHint().height());
+    rejilla.addWidget(new QLabel, 0, 0);
+    rejilla.addWidget(hueco, 0, 1);
+}
+
 void Poner(QGridLayout& rejilla, int numero, QWidget* control, int fila, int columna) {
     auto* etiqueta = new QLabel(QString::number(numero));
     etiqueta->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -22,7 +30,6 @@ QGridLayout* CrearColumna(QGridLayout& donde, int columna) {
     auto* rejilla = new QGridLayout(caja);
     rejilla->setContentsMargins(0, 0, 0, 0);
     rejilla->setVerticalSpacing(3);
-    for (int fila = 0; fila < 10; ++fila) rejilla->setRowStretch(fila, 1);
     donde.addWidget(caja, 0, columna);
     return rejilla;
 }
@@ -44,8 +51,19 @@ QFrame* CrearRejillaValores(int maximo, const std::function<QWidget*(int)>& crea
             continue;
         }
         if (n == 1 || n % 10 == 0) columna = CrearColumna(*rejilla, n / 10);
-        if (n == 1) columna->setRowMinimumHeight(0, control->sizeHint().height());
+        if (n == 1) PonerHueco(*columna, *control);
         Poner(*columna, n, control, n % 10, 0);
     }
     return papel;
+}
+
+QPalette ColoresSobrePapel(const QPalette& base) {
+    QPalette paleta = base;
+    const QColor tinta(0x1C, 0x1C, 0x1C), apagada(0x6B, 0x62, 0x5E);
+    for (const auto rol : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText}) {
+        paleta.setColor(rol, tinta);
+        paleta.setColor(QPalette::Disabled, rol, apagada);
+    }
+    for (const auto rol : {QPalette::Base, QPalette::Window, QPalette::Button}) paleta.setColor(rol, Qt::white);
+    return paleta;
 }

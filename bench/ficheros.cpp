@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <functional>
-#include <numeric>
 #include <string>
 #include <vector>
 
@@ -26,7 +25,8 @@ Tabla TodoElBoleto() {
         size_t r = 6;
         while (r > 0 && a[r - 1] == 43 + r) --r;
         if (r == 0) break;
-        std::iota(a.begin() + static_cast<std::ptrdiff_t>(r) - 1, a.end(), static_cast<uint8_t>(a[r - 1] + 1));
+        ++a[r - 1];
+        for (; r < a.size(); ++r) a[r] = static_cast<uint8_t>(a[r - 1] + 1);
     }
     return tabla;
 }

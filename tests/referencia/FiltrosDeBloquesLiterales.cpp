@@ -4,23 +4,15 @@
 #include <cmath>
 #include <vector>
 
+#include "VisitaLiteral.h"
+
 namespace {
 
 using Numeros = std::array<size_t, 7>; // numbers of a bet, 1 to 6
 
 template <class Falla>
 int32_t Visitar(Sesion& sesion, Falla falla) {
-    EstadoTrabajo& trabajo = sesion.trabajo;
-    int32_t eliminadas = 0;
-    for (int32_t i = 1; i <= trabajo.ApuestasEnTabla; ++i) {
-        if (trabajo.ApuestaEliminada(1, i) != 0) continue;
-        Numeros n{};
-        for (int r = 1; r <= 6; ++r) n[static_cast<size_t>(r)] = trabajo.BaseNumeros[trabajo.TablaApuestas(r, i)];
-        if (!falla(n)) continue;
-        trabajo.ApuestaEliminada(1, i) = 1;
-        ++eliminadas;
-    }
-    return eliminadas;
+    return VisitarVivas<size_t>(sesion, falla);
 }
 
 std::vector<size_t> Lista(const MarcasNumeros& marcas) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Figuras.h"
+#include "VisitaLiteral.h"
 
 namespace {
 
@@ -13,17 +14,7 @@ using Numeros = std::array<int, 7>; // numbers of a bet, 1 to 6
 
 template <class Falla>
 int32_t Visitar(Sesion& sesion, Falla falla) {
-    EstadoTrabajo& trabajo = sesion.trabajo;
-    int32_t eliminadas = 0;
-    for (int32_t i = 1; i <= trabajo.ApuestasEnTabla; ++i) {
-        if (trabajo.ApuestaEliminada(1, i) != 0) continue;
-        Numeros n{};
-        for (int r = 1; r <= 6; ++r) n[static_cast<size_t>(r)] = trabajo.BaseNumeros[trabajo.TablaApuestas(r, i)];
-        if (!falla(n)) continue;
-        trabajo.ApuestaEliminada(1, i) = 1;
-        ++eliminadas;
-    }
-    return eliminadas;
+    return VisitarVivas<int>(sesion, falla);
 }
 
 template <class EsDeClase>

@@ -49,15 +49,13 @@ struct Entorno {
     std::function<bool(const std::string& direccion)> AbrirDireccion = [](const std::string&) { return false; };
     /// GET of an address: the body on success, otherwise false and the description of the failure.
     std::function<bool(const std::string& url, std::string& cuerpo, std::string& fallo)> PedirHttp =
-        [](const std::string&, std::string&, std::string& fallo) {
-            fallo = "no hay ningún servicio de sorteos configurado";
-            return false;
-        };
+        [](const std::string&, std::string&, std::string&) { return false; };
     /// The local date and time.
     std::function<FechaHora()> Ahora = [] { return FechaHora{}; };
     std::function<void()> Pitar = [] {};
 
     std::string CarpetaInformes = "."; ///< where the report files go
+    std::string Servicio;              ///< base address of the draw-data service, empty when none is set
     std::string Sitio;                 ///< address of the outside site, empty when none is set
     std::string Manual;                ///< address of the installed manual, empty when there is none
     char SeparadorMiles = '.';

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Registros.h"
+#include "Sorteos.h"
 #include "lstFiltros.h"
 
 struct Condiciones {
@@ -24,6 +25,9 @@ struct Condiciones {
     RegistroVALORACIONES VALORACIONES;
     RegistroCOEFICIENTERENTABILIDAD COEFICIENTERENTABILIDAD;
     RegistroGRUPOSENTRELIMITES GRUPOSENTRELIMITES;
+
+    /// The game's draws that SORTEOSANTERIORES judges by, as its dialog loaded them; empty when not loaded.
+    Sorteos SorteosFiltro;
 
     ListaFiltros lstFiltros;
     std::array<int32_t, NFiltros> EliminadasPorFiltro{};

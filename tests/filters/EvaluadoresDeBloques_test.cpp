@@ -4,25 +4,25 @@
 #include <gtest/gtest.h>
 
 #include "Boleto.h"
+#include "DadosFiltros.h"
 #include "Evaluadores.h"
 #include "FiltrosDeBloquesLiterales.h"
 #include "Guion.h"
-#include "SorteoFiltros.h"
 
 namespace {
 
 // Groups of few and of many numbers; flags other than 0 and 1 mean nothing.
-void SortearNumeros(Sorteo& s, MarcasNumeros& numeros) {
+void SortearNumeros(Dados& s, MarcasNumeros& numeros) {
     const int32_t densidad = s.Entre(1, 12);
     for (size_t n = 1; n < numeros.size(); ++n)
         numeros[n] = static_cast<uint8_t>(s.UnaDe(40) ? s.Entre(2, 255) : s.UnaDe(densidad));
 }
 
-void SortearAciertos(Sorteo& s, TablaAciertos& aciertos) {
+void SortearAciertos(Dados& s, TablaAciertos& aciertos) {
     for (uint8_t& marca : aciertos) marca = static_cast<uint8_t>(s.UnaDe(30) ? 2 : !s.UnaDe(4));
 }
 
-void SortearGRUPOS(Sorteo& s, Condiciones& c) {
+void SortearGRUPOS(Dados& s, Condiciones& c) {
     const int32_t usados = s.UnaDe(4) ? s.Entre(9, 30) : s.Entre(1, 8);
     for (int32_t i = 0; i < usados; ++i) {
         GrupoNumeros& grupo = c.GRUPOS.grupo[static_cast<size_t>(s.Entre(0, 209))];
@@ -35,7 +35,7 @@ void SortearGRUPOS(Sorteo& s, Condiciones& c) {
     }
 }
 
-void SortearGRUPOSENTRELIMITES(Sorteo& s, Condiciones& c) {
+void SortearGRUPOSENTRELIMITES(Dados& s, Condiciones& c) {
     const bool todos = s.UnaDe(5);
     const int32_t usados = todos ? 210 : s.Entre(0, 40);
     for (int32_t i = 0; i < usados; ++i) {
@@ -52,7 +52,7 @@ void SortearGRUPOSENTRELIMITES(Sorteo& s, Condiciones& c) {
 
 // Groups with gaps, with more conditions than subgroups and without conditions, as a base file may
 // bring them.
-void SortearGRUPOSRELACIONADOS(Sorteo& s, Condiciones& c) {
+void SortearGRUPOSRELACIONADOS(Dados& s, Condiciones& c) {
     for (int32_t usados = s.Entre(1, 3); usados > 0; --usados) {
         const auto b = static_cast<size_t>(6 * s.Entre(0, 59));
         const bool raro = s.UnaDe(6);
@@ -66,7 +66,7 @@ void SortearGRUPOSRELACIONADOS(Sorteo& s, Condiciones& c) {
     }
 }
 
-void SortearVALORACIONES(Sorteo& s, Condiciones& c) {
+void SortearVALORACIONES(Dados& s, Condiciones& c) {
     for (int32_t usados = s.Entre(1, 3); usados > 0; --usados) {
         GrupoValoraciones& grupo = c.VALORACIONES.grupo[static_cast<size_t>(s.Entre(0, 9))];
         const bool deFichero = s.UnaDe(4);
@@ -79,7 +79,7 @@ void SortearVALORACIONES(Sorteo& s, Condiciones& c) {
 
 // From percentages that a ticket really has to those that only a base file could bring: with products
 // that the rounding to 14 decimals distorts or wipes out, and with products out of all range.
-double SortearPorcentaje(Sorteo& s, int clase) {
+double SortearPorcentaje(Dados& s, int clase) {
     const double azar = s.azar.Rnd();
     switch (clase) {
     case 0:
@@ -97,7 +97,7 @@ double SortearPorcentaje(Sorteo& s, int clase) {
     }
 }
 
-void SortearCOEFICIENTERENTABILIDAD(Sorteo& s, Condiciones& c) {
+void SortearCOEFICIENTERENTABILIDAD(Dados& s, Condiciones& c) {
     RegistroCOEFICIENTERENTABILIDAD& registro = c.COEFICIENTERENTABILIDAD;
     if (!s.UnaDe(8)) {
         const int apostados = s.Entre(0, 5), reales = s.UnaDe(2) ? apostados : s.Entre(0, 5);
@@ -116,7 +116,7 @@ const CasoEvaluador Casos[] = {
     {"GRUPOSENTRELIMITES", FiltrarGRUPOSENTRELIMITES, LiteralGRUPOSENTRELIMITES, SortearGRUPOSENTRELIMITES},
     {"GRUPOSRELACIONADOS", FiltrarGRUPOSRELACIONADOS, LiteralGRUPOSRELACIONADOS, SortearGRUPOSRELACIONADOS},
     {"POSICIONES", FiltrarPOSICIONES, LiteralPOSICIONES,
-     [](Sorteo& s, Condiciones& c) {
+     [](Dados& s, Condiciones& c) {
          for (MarcasNumeros& bola : c.POSICIONES.Bola)
              if (!s.UnaDe(3))
                  for (uint8_t& marca : bola) marca = static_cast<uint8_t>(s.UnaDe(20) ? 2 : !s.UnaDe(4));

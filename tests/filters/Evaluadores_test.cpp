@@ -5,52 +5,52 @@
 #include <gtest/gtest.h>
 
 #include "Boleto.h"
+#include "DadosFiltros.h"
 #include "FiltrosLiterales.h"
 #include "Guion.h"
-#include "SorteoFiltros.h"
 #include "TablaFiltros.h"
 
 namespace {
 
 const CasoEvaluador Casos[] = {
     {"ALTOSBAJOS", FiltrarALTOSBAJOS, LiteralALTOSBAJOS,
-     [](Sorteo& s, Condiciones& c) {
+     [](Dados& s, Condiciones& c) {
          s.Llenar(c.ALTOSBAJOS.Altos);
          s.Llenar(c.ALTOSBAJOS.Bajos);
      }},
     {"DECENAS", FiltrarDECENAS, LiteralDECENAS,
-     [](Sorteo& s, Condiciones& c) {
+     [](Dados& s, Condiciones& c) {
          for (auto& decena : c.DECENAS.Decena) s.Llenar(decena);
          s.Llenar(c.DECENAS.FigurasDecenas);
      }},
     {"DISTANCIAS", FiltrarDISTANCIAS, LiteralDISTANCIAS,
-     [](Sorteo& s, Condiciones& c) { s.LlenarIntervalos(c.DISTANCIAS.Distancia, -5, 45); }},
+     [](Dados& s, Condiciones& c) { s.LlenarIntervalos(c.DISTANCIAS.Distancia, -5, 45); }},
     {"HOMOLOGOS", FiltrarHOMOLOGOS, LiteralHOMOLOGOS,
-     [](Sorteo& s, Condiciones& c) { s.Llenar(c.HOMOLOGOS.HomologosAcertados); }},
+     [](Dados& s, Condiciones& c) { s.Llenar(c.HOMOLOGOS.HomologosAcertados); }},
     {"PARESIMPARES", FiltrarPARESIMPARES, LiteralPARESIMPARES,
-     [](Sorteo& s, Condiciones& c) { s.Llenar(c.PARESIMPARES.ParesActivos); }},
+     [](Dados& s, Condiciones& c) { s.Llenar(c.PARESIMPARES.ParesActivos); }},
     {"SEGUIDOS", FiltrarSEGUIDOS, LiteralSEGUIDOS,
-     [](Sorteo& s, Condiciones& c) {
+     [](Dados& s, Condiciones& c) {
          s.Llenar(c.SEGUIDOS.NumerosSeguidos);
          s.Llenar(c.SEGUIDOS.FigurasSeguidos);
      }},
     {"SUMAS", FiltrarSUMAS, LiteralSUMAS,
-     [](Sorteo& s, Condiciones& c) { s.LlenarIntervalos(c.SUMAS.intervalos, 0, 300); }},
+     [](Dados& s, Condiciones& c) { s.LlenarIntervalos(c.SUMAS.intervalos, 0, 300); }},
     {"TERMINACIONES", FiltrarTERMINACIONES, LiteralTERMINACIONES,
-     [](Sorteo& s, Condiciones& c) {
+     [](Dados& s, Condiciones& c) {
          for (auto& digito : c.TERMINACIONES.TerminadosEn) s.Llenar(digito);
          s.Llenar(c.TERMINACIONES.FigurasTerminaciones);
          c.TERMINACIONES.SumaMinima = static_cast<uint8_t>(s.UnaDe(3) ? 0 : s.Entre(0, 30));
          c.TERMINACIONES.SumaMaxima = static_cast<uint8_t>(s.UnaDe(3) ? 255 : s.Entre(20, 60));
      }},
     {"EXTERIORESINTERIORES", FiltrarEXTERIORESINTERIORES, LiteralEXTERIORESINTERIORES,
-     [](Sorteo& s, Condiciones& c) { s.Llenar(c.EXTERIORESINTERIORES.ExterioresInterioresActivos); }},
+     [](Dados& s, Condiciones& c) { s.Llenar(c.EXTERIORESINTERIORES.ExterioresInterioresActivos); }},
     {"SUPERIORESINFERIORES", FiltrarSUPERIORESINFERIORES, LiteralSUPERIORESINFERIORES,
-     [](Sorteo& s, Condiciones& c) { s.Llenar(c.SUPERIORESINFERIORES.SuperioresInferioresActivos); }},
+     [](Dados& s, Condiciones& c) { s.Llenar(c.SUPERIORESINFERIORES.SuperioresInferioresActivos); }},
     {"COLINDANTES", FiltrarCOLINDANTES, LiteralCOLINDANTES,
-     [](Sorteo& s, Condiciones& c) { s.Llenar(c.COLINDANTES.ColindantesAcertados); }},
+     [](Dados& s, Condiciones& c) { s.Llenar(c.COLINDANTES.ColindantesAcertados); }},
     {"SUMASPORTRIOS", FiltrarSUMASPORTRIOS, LiteralSUMASPORTRIOS,
-     [](Sorteo& s, Condiciones& c) {
+     [](Dados& s, Condiciones& c) {
          s.LlenarIntervalos(c.SUMASPORTRIOS.intervalosT1, 0, 130);
          s.LlenarIntervalos(c.SUMASPORTRIOS.intervalosT2, 0, 160);
      }},

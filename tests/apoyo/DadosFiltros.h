@@ -9,7 +9,7 @@
 #include "TablaFiltros.h"
 
 /// Random records: each part may be empty, and a flag may hold what a base file can put there.
-struct Sorteo {
+struct Dados {
     Azar azar;
 
     bool UnaDe(int32_t n) { return azar.Entero(n) == 0; }
@@ -40,7 +40,7 @@ struct CasoEvaluador {
     const char* nombre;
     Evaluador rapido;
     int32_t (*literal)(Sesion&);
-    void (*sortear)(Sorteo&, Condiciones&);
+    void (*sortear)(Dados&, Condiciones&);
 };
 
 void PrintTo(const CasoEvaluador& caso, std::ostream* salida);

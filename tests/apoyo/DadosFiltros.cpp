@@ -1,4 +1,4 @@
-#include "SorteoFiltros.h"
+#include "DadosFiltros.h"
 
 #include <array>
 #include <numeric>
@@ -14,7 +14,7 @@
 
 namespace {
 
-void SortearBase(Sorteo& s, EstadoTrabajo& trabajo) {
+void SortearBase(Dados& s, EstadoTrabajo& trabajo) {
     const int16_t tamano = s.Entre(6, 49);
     for (int16_t quedan = tamano; quedan > 0;) {
         bool& marca = trabajo.lblNumero[static_cast<size_t>(s.Entre(1, 49))];
@@ -26,7 +26,7 @@ void SortearBase(Sorteo& s, EstadoTrabajo& trabajo) {
 
 // Bets of distinct positions, a third of them close together so that runs and neighbours are seen.
 // Some come in any order, as an imported file may bring them.
-void SortearApuestas(Sorteo& s, EstadoTrabajo& trabajo) {
+void SortearApuestas(Dados& s, EstadoTrabajo& trabajo) {
     trabajo.ApuestasEnTabla = s.UnaDe(4) ? s.Entre(0, 130) : s.Entre(3900, 8200);
     trabajo.TablaApuestas.Dimensionar(6, trabajo.ApuestasEnTabla);
     trabajo.ApuestaEliminada.Dimensionar(1, trabajo.ApuestasEnTabla);
@@ -63,7 +63,7 @@ void CompararEn(const CasoEvaluador& caso, int64_t procesador, int64_t& visitada
     for (uint64_t semilla = 1; semilla <= 25 && !testing::Test::HasFailure(); ++semilla) {
         SCOPED_TRACE(semilla);
         Guion guion;
-        Sorteo s;
+        Dados s;
         s.azar.Sembrar(semilla);
         SortearBase(s, guion.sesion.trabajo);
         SortearApuestas(s, guion.sesion.trabajo);

@@ -12,8 +12,8 @@
 
 #include "DialogosFiltro.h"
 #include "TextoQt.h"
+#include "Ventanas.h"
 #include "VistaFiltros.h"
-#include "frmAcercaDe.h"
 #include "frmAlazar.h"
 #include "tema.h"
 
@@ -242,15 +242,8 @@ void frmPrincipal::Hacer(Orden orden) {
         return;
     }
     logica.Hacer(orden);
-    if (logica.PuedeAbrir(orden)) AbrirVentana(orden);
+    if (logica.PuedeAbrir(orden)) AbrirVentana(orden, logica.sesion, logica.entorno, this);
     Pintar();
-}
-
-void frmPrincipal::AbrirVentana(Orden orden) {
-    if (orden == Orden::AcercaDe) {
-        frmAcercaDe acercaDe(this);
-        MostrarModal(acercaDe);
-    }
 }
 
 void frmPrincipal::AbrirFila(int k) {

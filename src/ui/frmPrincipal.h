@@ -36,7 +36,6 @@ class frmPrincipal final : public QMainWindow {
     void PintarJuego();
     void PintarBoleto();
     void Hacer(Orden orden);
-    void AbrirVentana(Orden orden);
     void AbrirFila(int k);
     void CambiarTipoCombinacion(int indice);
 

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "Entorno.h"
+#include "Estadisticas.h"
 #include "EstadoTrabajo.h"
 #include "Sorteos.h"
 
@@ -19,24 +21,33 @@ struct LogicaEstadisticas {
     std::string lblSorteosCargados = "0", lblSorteosConsultados;
     std::string lblTemporadaDESDE = "-", lblSorteoDESDE = "-", lblTemporadaHASTA = "-", lblSorteoHASTA = "-";
     std::string txtTemporadaDESDE, txtTemporadaHASTA, txtSorteoDESDE, txtSorteoHASTA;
-    int cboDia = 0;            ///< 0 all, 1 Monday to 6 Saturday
-    int optFiltro = 0;         ///< statistic chosen, 0 to 9
-    std::string lblDatos;      ///< title of the statistic
-    std::string txtDatos;      ///< its text
-    bool Actualizando = false; ///< the wait panel shows and the controls are disabled
+    int cboDia = 0;                        ///< 0 all, 1 Monday to 6 Saturday
+    int optFiltro = 0;                     ///< statistic chosen, 0 to 9
+    std::string lblDatos;                  ///< title of the statistic
+    std::string txtDatos;                  ///< its text, LF line ends
+    std::vector<BarraEstadistica> Figuras; ///< the same rows for a chart, empty with the text
+    bool Actualizando = false;             ///< the wait panel shows and the controls are disabled
 
     Sorteos SorteosCargados;
+    std::string RutaFicheroNuevo; ///< the file that an update looks for, or makes, when none is loaded
+
+    /// Whether a long job runs, here or in the main window: the buttons of the file then do nothing.
+    bool Ocupado() const { return trabajo.FormularioBloqueado; }
+    /// Whether the game has this statistic.
+    bool Ofrece(int indice) const;
 
     // Buttons, in files of their own: the draw file ...
     void cmdAbrirEstadisticas();
+    /// Loads a file; after a failure, which its box tells, no draws are loaded.
     bool CargarFicheroSorteos(const std::string& ruta);
     void imgINIFichero();
     void InicializarDatosSorteos();
-    /// ... its update from the service ...
+    /// ... its update from the service: true when the file was replaced and loaded again ...
     bool ActualizarDesdeInternet();
     /// ... and the statistics.
     void ElegirJuego(int juego);
     void ElegirEstadistica(int indice);
+    /// Runs the query; false when a field stopped it.
     bool cmdConsultar();
 
     EstadoTrabajo& trabajo;

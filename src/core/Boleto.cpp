@@ -86,16 +86,20 @@ void LimpiarMarcas(EstadoTrabajo& trabajo) {
     ActualizarContadores(trabajo);
 }
 
-void MarcarAlazar(EstadoTrabajo& trabajo, int cuantos) {
-    const int maximo = trabajo.NumeroMaximo();
+std::array<bool, NumeroMaximoBoleto + 1> SortearMarcas(int maximo, int cuantos) {
     std::array<int, NumeroMaximoBoleto> lista;
     std::iota(lista.begin(), lista.end(), 1);
     Azar azar;
     azar.SembrarReloj();
-    for (int i = 0; i < cuantos; ++i)
+    for (int i = 0; i < maximo; ++i)
         std::swap(lista[static_cast<size_t>(i)], lista[static_cast<size_t>(azar.Entero(maximo))]);
-    trabajo.lblNumero.fill(false);
-    for (int i = 0; i < cuantos; ++i) trabajo.lblNumero[static_cast<size_t>(lista[static_cast<size_t>(i)])] = true;
+    std::array<bool, NumeroMaximoBoleto + 1> marcas{};
+    for (int i = 0; i < cuantos; ++i) marcas[static_cast<size_t>(lista[static_cast<size_t>(i)])] = true;
+    return marcas;
+}
+
+void MarcarAlazar(EstadoTrabajo& trabajo, int cuantos) {
+    trabajo.lblNumero = SortearMarcas(trabajo.NumeroMaximo(), cuantos);
     trabajo.CombinacionGuardada = false;
     ActualizarContadores(trabajo);
 }

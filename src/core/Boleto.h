@@ -31,6 +31,9 @@ void MarcarDesmarcarTODOS(EstadoTrabajo& trabajo);
 /// Clears the marks of numbers and digits; the counters follow.
 void LimpiarMarcas(EstadoTrabajo& trabajo);
 
+/// Marks, indexed by number, of `cuantos` different numbers of 1 to `maximo` drawn at random.
+std::array<bool, NumeroMaximoBoleto + 1> SortearMarcas(int maximo, int cuantos);
+
 /// Marks `cuantos` numbers of the game drawn at random, in place of those marked.
 void MarcarAlazar(EstadoTrabajo& trabajo, int cuantos);
 

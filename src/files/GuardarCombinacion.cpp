@@ -7,6 +7,7 @@
 #include "Bloqueo.h"
 #include "Boleto.h"
 #include "Ficheros.h"
+#include "GuardarSistema.h"
 #include "modEncriptarFichero.h"
 #include "modGeneral.h"
 #include "modXML.h"
@@ -14,33 +15,6 @@
 namespace {
 
 constexpr int32_t ApuestasSinPreguntar = 3000000;
-
-// The wait panel, shown while it lives.
-class PanelEspera {
-  public:
-    explicit PanelEspera(Espera& espera) : espera_(espera) { espera_ = {true, 0}; }
-    ~PanelEspera() { espera_ = {}; }
-    PanelEspera(const PanelEspera&) = delete;
-    PanelEspera& operator=(const PanelEspera&) = delete;
-
-  private:
-    Espera& espera_;
-};
-
-// The numbers of the marked base, two digits each, one behind the other.
-std::string CabeceraDeBase(const EstadoTrabajo& trabajo) {
-    std::string cabecera;
-    for (int n = 1; n <= trabajo.NumeroMaximo(); ++n)
-        if (trabajo.lblNumero[static_cast<size_t>(n)]) cabecera += Formato00(n);
-    return cabecera;
-}
-
-std::string PedirRutaApuestas(const EstadoTrabajo& trabajo, Entorno& entorno) {
-    const std::string actual = NombreFicheroActual(trabajo);
-    return entorno.PedirGuardar({"Guardar Combinación",
-                                 {{"Fichero de TOMBOLERA (*.TOM)", "*.TOM"}, {"todos los archivos (*.*)", "*.*"}},
-                                 actual.substr(0, actual.find_last_of('.')) + ".TOM"});
-}
 
 // The two files go together: both are on the disk before either takes its place, so that a failure
 // leaves the former pair as it was.
@@ -52,8 +26,9 @@ bool EscribirPareja(const std::string& ruta, Sesion& sesion, Entorno& entorno, s
     if (!base.Abrir(RutaConExtension(ruta, ".xml")) || !base.Escribir(GenerarXMLBase(sesion, entorno)) ||
         !base.Asentar())
         return fallo = base.Fallo(), false;
-    if (!sistema.Abrir(RutaConExtension(ruta, ".TOM")) ||
-        !EscribirApuestas(sistema, CabeceraDeBase(trabajo), cantidad, apuestas, &trabajo.picVentanaEspera, entorno) ||
+    if (!sistema.Abrir(ruta) ||
+        !EscribirApuestas(sistema, CabeceraDeMarcas(trabajo.lblNumero, trabajo.NumeroMaximo()), cantidad, apuestas,
+                          &trabajo.picVentanaEspera, entorno) ||
         !sistema.Confirmar())
         return fallo = sistema.Fallo(), false;
     return base.Confirmar() || (fallo = base.Fallo(), false);
@@ -85,12 +60,12 @@ bool GuardarBaseXML(Sesion& sesion, Entorno& entorno) {
 
 bool GuardarCombinacion(Sesion& sesion, Entorno& entorno) {
     if (!PuedeGuardar(sesion.trabajo, entorno)) return false;
-    const std::string ruta = PedirRutaApuestas(sesion.trabajo, entorno);
-    if (Recortar(ruta).empty()) return false;
+    const std::string ruta = PedirRutaSistema(NombreSistemaActual(sesion.trabajo), entorno);
+    if (ruta.empty()) return false;
     std::string fallo;
     {
         const Bloqueo bloqueo(sesion.trabajo);
-        const PanelEspera panel(sesion.trabajo.picVentanaEspera);
+        const BarraVisible panel(sesion.trabajo.picVentanaEspera);
         try {
             sesion.trabajo.CombinacionGuardada = EscribirPareja(ruta, sesion, entorno, fallo);
         } catch (const std::bad_alloc&) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "Juegos.h"
+#include "NumerosTexto.h"
 #include "modGeneral.h"
 
 namespace {
@@ -120,6 +122,19 @@ CLI::Option* Entero(CLI::App* orden, const std::string& nombre, int32_t& valor, 
         return true;
     };
     return orden->add_option(nombre, leer, descripcion)->type_name("N");
+}
+
+CLI::Option* ListaNumeros(CLI::App* orden, const std::string& nombre, std::vector<int>& numeros,
+                          const std::string& descripcion) {
+    const auto leer = [&numeros, nombre](const CLI::results_t& valores) {
+        const NumerosLeidos leidos = LeerNumeros(valores.front(), NumeroMaximoBoleto);
+        if (leidos.Numeros.empty() || !leidos.Erroneos.empty())
+            throw CLI::ValidationError(nombre, "se esperan números de 1 a 49 separados por comas, no " +
+                                                   (leidos.Erroneos.empty() ? "\"\"" : leidos.Erroneos.front()));
+        numeros = leidos.Numeros;
+        return true;
+    };
+    return orden->add_option(nombre, leer, descripcion)->type_name("L");
 }
 
 std::string TextoError(const CLI::App& programa, const CLI::ParseError& error) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 
@@ -24,6 +25,10 @@ CLI::Option* OpcionJuego(CLI::App* orden, int& juego);
 /// A whole number from `minimo` up that fits 32 bits.
 CLI::Option* Entero(CLI::App* orden, const std::string& nombre, int32_t& valor, int32_t minimo,
                     const std::string& descripcion);
+
+/// Numbers of 1 to 49 with commas between.
+CLI::Option* ListaNumeros(CLI::App* orden, const std::string& nombre, std::vector<int>& numeros,
+                          const std::string& descripcion);
 
 /// The error of a parse and how the order is used, in Spanish.
 std::string TextoError(const CLI::App& programa, const CLI::ParseError& error);

@@ -8,3 +8,5 @@
 void DeclararCalcular(CLI::App& programa, Lote& lote);
 void DeclararBase(CLI::App& programa, Lote& lote);
 void DeclararVer(CLI::App& programa, Lote& lote);
+void DeclararGenerar(CLI::App& programa, Lote& lote);
+void DeclararSistemaPropio(CLI::App& programa, Lote& lote);

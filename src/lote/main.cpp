@@ -35,6 +35,8 @@ int main(int argc, char** argv) {
     DeclararCalcular(programa, lote);
     DeclararBase(programa, lote);
     DeclararVer(programa, lote);
+    DeclararGenerar(programa, lote);
+    DeclararSistemaPropio(programa, lote);
     try {
         programa.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {

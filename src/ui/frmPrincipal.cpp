@@ -5,12 +5,10 @@
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QMimeData>
-#include <QTimer>
 #include <QTreeWidget>
-#include <QUrl>
 
 #include "DialogosFiltro.h"
+#include "SoltarFicheros.h"
 #include "TextoQt.h"
 #include "Ventanas.h"
 #include "VistaFiltros.h"
@@ -37,19 +35,14 @@ QComboBox* CrearLista(QWidget* padre, const QString& nombre, const QString& acce
     return lista;
 }
 
-// The path of the one file that is dragged, empty for anything else.
-QString FicheroArrastrado(const QMimeData* datos) {
-    if (!datos->hasUrls() || datos->urls().size() != 1) return {};
-    const QString ruta = datos->urls().constFirst().toLocalFile();
-    return QFileInfo(ruta).isFile() ? ruta : QString();
-}
-
 } // namespace
 
 frmPrincipal::frmPrincipal(Sesion& sesion, Entorno& entorno) : logica{sesion, entorno}, pintor([this] { Pintar(); }) {
     setObjectName(Q("frmPrincipal"));
     setWindowIcon(IconoPrograma());
-    setAcceptDrops(true);
+    AceptarFicheros(
+        *this, false, [this] { return !logica.Bloqueada(); },
+        [this](const auto& rutas) { logica.Soltar(rutas.front()), Pintar(); });
     barra = CrearBarraOrdenes(this, [this](Orden orden) { Hacer(orden); });
     auto* centro = new QWidget(this);
     auto* rejilla = new QGridLayout(centro);
@@ -276,18 +269,4 @@ void frmPrincipal::changeEvent(QEvent* evento) {
 void frmPrincipal::resizeEvent(QResizeEvent* evento) {
     QMainWindow::resizeEvent(evento);
     PintarPanelEspera(espera, logica.sesion.trabajo.picVentanaEspera);
-}
-
-void frmPrincipal::dragEnterEvent(QDragEnterEvent* evento) {
-    if (!logica.Bloqueada() && !FicheroArrastrado(evento->mimeData()).isEmpty()) evento->acceptProposedAction();
-}
-
-void frmPrincipal::dropEvent(QDropEvent* evento) {
-    const QString ruta = FicheroArrastrado(evento->mimeData());
-    evento->acceptProposedAction();
-    // The program that the file comes from waits for this event: boxes come after it.
-    QTimer::singleShot(0, this, [this, ruta] {
-        logica.Soltar(Utf8(ruta));
-        Pintar();
-    });
 }

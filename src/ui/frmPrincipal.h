@@ -25,8 +25,6 @@ class frmPrincipal final : public QMainWindow {
     void closeEvent(QCloseEvent* evento) override;
     void changeEvent(QEvent* evento) override;
     void resizeEvent(QResizeEvent* evento) override;
-    void dragEnterEvent(QDragEnterEvent* evento) override;
-    void dropEvent(QDropEvent* evento) override;
 
   private:
     QWidget* CrearJuego();

@@ -1,5 +1,6 @@
 // Help, version and wrong arguments. TOMBOLERA_REGENERAR=1 in the environment writes the help texts
 // anew instead of comparing them.
+#include <algorithm>
 #include <cstdlib>
 
 #include <gtest/gtest.h>
@@ -28,8 +29,15 @@ TEST_P(Ayuda, EsLaGuardada) {
 INSTANTIATE_TEST_SUITE_P(Ordenes, Ayuda,
                          testing::Values(CasoAyuda{"programa", {"--ayuda"}},
                                          CasoAyuda{"calcular", {"calcular", "--ayuda"}},
-                                         CasoAyuda{"base", {"base", "--ayuda"}}, CasoAyuda{"ver", {"ver", "--ayuda"}}),
-                         [](const auto& caso) { return caso.param.Nombre; });
+                                         CasoAyuda{"base", {"base", "--ayuda"}}, CasoAyuda{"ver", {"ver", "--ayuda"}},
+                                         CasoAyuda{"generar-numeros", {"generar-numeros", "--ayuda"}},
+                                         CasoAyuda{"generar-porcentajes", {"generar-porcentajes", "--ayuda"}},
+                                         CasoAyuda{"sistema-propio", {"sistema-propio", "--ayuda"}}),
+                         [](const auto& caso) {
+                             std::string nombre = caso.param.Nombre;
+                             std::replace(nombre.begin(), nombre.end(), '-', '_');
+                             return nombre;
+                         });
 
 TEST(Argumentos, VersionEnUnaLinea) {
     const Resultado r = Correr({"--version"});

@@ -6,6 +6,7 @@
 #include <numeric>
 
 #include "AjustarApuestasExactas.h"
+#include "ContarNumeros.h"
 #include "GenerarApuestas.h"
 #include "InformePorcentajes.h"
 #include "ReducirPorCobertura.h"
@@ -16,22 +17,6 @@
 namespace {
 
 constexpr uint32_t TurnosPorReloj = 64;
-
-// How many cells of rows 1 to 6 hold each value. Neighbours often hold the same one, hence the tables in
-// turn: an increment need not wait for the one before.
-std::array<int64_t, 256> ContarCeldas(const Tabla& tabla) {
-    std::array<std::array<int32_t, 256>, 4> parcial;
-    std::array<int64_t, 256> cuenta{};
-    const int64_t n = tabla.Apuestas();
-    for (int r = 1; r <= 6; ++r) {
-        parcial = {};
-        const uint8_t* fila = tabla.Fila(r);
-        for (int64_t i = 0; i < n; ++i) ++parcial[i % 4][fila[i]];
-        for (const auto& tanda : parcial)
-            for (size_t x = 0; x < cuenta.size(); ++x) cuenta[x] += tanda[x];
-    }
-    return cuenta;
-}
 
 } // namespace
 
@@ -228,7 +213,7 @@ void LogicaVentanaProceso::PorcentajesAntes() {
     if (trabajo.SinEliminadas)
         std::fill_n(cuenta.begin() + 1, n, Combinaciones(static_cast<int16_t>(n - 1), 5));
     else
-        cuenta = ContarCeldas(trabajo.ApuestasCondicionadas);
+        cuenta = ContarNumeros(trabajo.ApuestasCondicionadas);
     for (int p = 1; p <= n; ++p) porNumero[trabajo.BaseNumeros[p]] = cuenta[p];
     fraPorcentajes = "Porcentajes ANTES de reducir";
     Porcentajes(porNumero, trabajo.ApuestasCondicionadas.Apuestas());
@@ -238,7 +223,7 @@ void LogicaVentanaProceso::PorcentajesDespues() {
     const Contadores& contador = sesion.trabajo.Contador;
     if (contador.Reducidas == 0 || contador.Reducidas == contador.Condicionadas) return;
     fraPorcentajes = "Porcentajes DESPUES de reducir";
-    Porcentajes(ContarCeldas(sesion.trabajo.ApuestasReducidas), sesion.trabajo.ApuestasReducidas.Apuestas());
+    Porcentajes(ContarNumeros(sesion.trabajo.ApuestasReducidas), sesion.trabajo.ApuestasReducidas.Apuestas());
 }
 
 void LogicaVentanaProceso::Porcentajes(const std::array<int64_t, 256>& porNumero, int64_t apuestas) {

@@ -15,6 +15,7 @@ struct Lote {
     Consola consola;
     Entorno entorno;
     Salida salida;
+    int64_t Ciclos = 0; ///< that the reduction of the run made
     /// The order that the arguments chose: false when a box or a "no" ended it.
     std::function<bool(Lote&)> Orden;
 };

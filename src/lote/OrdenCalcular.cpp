@@ -7,9 +7,8 @@
 #include "CalcularSistema.h"
 #include "GuardarCombinacion.h"
 #include "ImportarCombinacion.h"
-#include "LogicaVentanaProceso.h"
 #include "Ordenes.h"
-#include "Parada.h"
+#include "Reduccion.h"
 #include "TablaFiltros.h"
 #include "TextoApuestas.h"
 #include "modXML.h"
@@ -22,24 +21,6 @@ struct ArgumentosCalcular {
     int32_t Ciclos = 0, Segundos = 0; ///< ends of a reduction, 0 where none was given
     bool Json = false;
 };
-
-// Stands in for the user at the process window: one run, with its ends and the stop button.
-// `ciclos` gets the cycles that it made.
-void CorrerReduccion(LogicaVentanaProceso& ventana, Lote& lote, const ArgumentosCalcular& argumentos, int64_t& ciclos) {
-    ventana.TopeSegundos = argumentos.Segundos;
-    ventana.TopeCiclos = argumentos.Ciclos == 0 && argumentos.Segundos == 0 ? 1 : argumentos.Ciclos;
-    const auto cederTurno = lote.entorno.CederTurno;
-    lote.entorno.CederTurno = [&] {
-        lote.consola.Progreso([&] {
-            return fmt::format("Ciclo {}, {:.0f} %, {} apuestas", ventana.lblCiclos, 100 * ventana.lblProgressBar,
-                               ventana.lblApuestasVP);
-        });
-        if (ParadaPedida()) ventana.Detener();
-    };
-    ventana.Activar();
-    lote.entorno.CederTurno = cederTurno;
-    ciclos = static_cast<int64_t>(ventana.CicloActual);
-}
 
 // The active filters in row order with what each one eliminated.
 std::vector<std::pair<std::string, int32_t>> Eliminadas(const Condiciones& condiciones) {
@@ -94,14 +75,11 @@ bool Calcular(Lote& lote, const ArgumentosCalcular& argumentos) {
         lote.sesion.trabajo.chkReintegros = argumentos.Reintegros;
         if (!ImportarFichero(argumentos.Importar, lote.sesion, lote.entorno)) return false;
     }
-    int64_t ciclos = 0;
-    lote.entorno.MostrarVentanaProceso = [&](LogicaVentanaProceso& ventana) {
-        CorrerReduccion(ventana, lote, argumentos, ciclos);
-    };
+    PrepararReduccion(lote, {argumentos.Ciclos, argumentos.Segundos});
     if (!CalcularSistema(lote.sesion, lote.entorno)) return false;
     const bool guardado = GuardarFicheros(lote, argumentos);
-    lote.salida.Escribir(argumentos.Json ? CuentasComoJson(lote.sesion, ciclos)
-                                         : CuentasComoTexto(lote.sesion, ciclos));
+    lote.salida.Escribir(argumentos.Json ? CuentasComoJson(lote.sesion, lote.Ciclos)
+                                         : CuentasComoTexto(lote.sesion, lote.Ciclos));
     return guardado;
 }
 

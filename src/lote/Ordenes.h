@@ -8,5 +8,8 @@
 void DeclararCalcular(CLI::App& programa, Lote& lote);
 void DeclararBase(CLI::App& programa, Lote& lote);
 void DeclararVer(CLI::App& programa, Lote& lote);
+void DeclararResumen(CLI::App& programa, Lote& lote);
+void DeclararEliminadas(CLI::App& programa, Lote& lote);
+void DeclararAnalisis(CLI::App& programa, Lote& lote);
 void DeclararGenerar(CLI::App& programa, Lote& lote);
 void DeclararSistemaPropio(CLI::App& programa, Lote& lote);

@@ -35,6 +35,9 @@ int main(int argc, char** argv) {
     DeclararCalcular(programa, lote);
     DeclararBase(programa, lote);
     DeclararVer(programa, lote);
+    DeclararResumen(programa, lote);
+    DeclararEliminadas(programa, lote);
+    DeclararAnalisis(programa, lote);
     DeclararGenerar(programa, lote);
     DeclararSistemaPropio(programa, lote);
     try {

@@ -6,6 +6,7 @@
 #include "frmAcercaDe.h"
 #include "frmAciertos.h"
 #include "frmAlazar.h"
+#include "frmAnalisis.h"
 #include "frmVentanaProceso.h"
 
 namespace {
@@ -33,6 +34,18 @@ std::unique_ptr<QDialog> VentanaProceso(Guion& g) {
     proceso->TopeCiclos = 30;
     proceso->Activar();
     return std::make_unique<frmVentanaProceso>(*proceso, nullptr);
+}
+
+// The final system of a base of fourteen numbers under a condition, so that they differ.
+std::unique_ptr<QDialog> Analisis(Guion& g) {
+    Condiciones& c = g.sesion.condiciones;
+    for (FilaFiltro& fila : c.lstFiltros) fila.Activo = false;
+    c.lstFiltros[kSUMAS].Activo = true;
+    c.SUMAS.intervalos[0] = {21, 40};
+    g.MarcarHasta(14);
+    g.MarcarDigitos({1});
+    CalcularSistema(g.sesion, g.entorno);
+    return std::make_unique<frmAnalisis>(g.sesion, g.entorno, g.sesion.trabajo.Contador.Reducidas, nullptr);
 }
 
 // A base, without which no number takes a mark.
@@ -65,6 +78,7 @@ const std::vector<DialogoProbado>& Dialogos() {
         DeFila("frmFiltroGRUPOSENTRELIMITES", kGRUPOSENTRELIMITES),
         DeFila("frmReduccion", FilaReduccion),
         {"frmVentanaProceso", VentanaProceso, true},
+        {"frmAnalisis", Analisis},
         {"frmAciertos", Aciertos},
         {"frmAlazar", [](Guion& g) { return std::make_unique<frmAlazar>(g.sesion.trabajo, nullptr); }},
         {"frmAcercaDe", [](Guion&) { return std::make_unique<frmAcercaDe>(nullptr); }},

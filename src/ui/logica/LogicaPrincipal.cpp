@@ -8,6 +8,8 @@
 #include "Ficheros.h"
 #include "GuardarCombinacion.h"
 #include "ImportarCombinacion.h"
+#include "InformeEliminadas.h"
+#include "InformeResumen.h"
 #include "NumerosTexto.h"
 #include "Sesiones.h"
 #include "modGeneral.h"
@@ -31,6 +33,12 @@ void LogicaPrincipal::Hacer(Orden orden) {
         return;
     case Orden::Guardar:
         GuardarBaseXML(sesion, entorno);
+        return;
+    case Orden::VerResumenFiltros:
+        VerResumenFiltros(sesion, entorno);
+        return;
+    case Orden::InformeApuestasEliminadas:
+        VerApuestasEliminadas(sesion, entorno);
         return;
     case Orden::VerApuestas:
         VerApuestas(sesion, entorno);

@@ -45,11 +45,14 @@ bool OrdenDisponible(Orden orden) {
     case Orden::Abrir:
     case Orden::Guardar:
     case Orden::Salir:
+    case Orden::VerResumenFiltros:
+    case Orden::InformeApuestasEliminadas:
     case Orden::VerApuestas:
     case Orden::AyudaOnline:
     case Orden::AcercaDe:
     case Orden::ValidarOnLine:
     case Orden::CalculoPrueba:
+    case Orden::Analisis:
     case Orden::CalculoDefinitivo:
         return true;
     default:

@@ -36,9 +36,7 @@ QLabel* CrearEtiqueta(Qt::Alignment lado, const QString& masAncha, bool negrita)
     return etiqueta;
 }
 
-} // namespace
-
-RejillaPorcentajes CrearRejillaPorcentajes(int maximo) {
+RejillaPorcentajes CrearPapel(size_t cuantos) {
     RejillaPorcentajes r;
     r.papel = new QFrame;
     r.papel->setFrameStyle(QFrame::StyledPanel);
@@ -50,26 +48,51 @@ RejillaPorcentajes CrearRejillaPorcentajes(int maximo) {
     r.rejilla->setContentsMargins(Hueco, Hueco, Hueco, Hueco);
     r.rejilla->setHorizontalSpacing(0);
     r.rejilla->setVerticalSpacing(3);
-    const bool columnas = maximo == NumeroMaximoBoleto;
-    for (int n = 1; n <= maximo; ++n) {
-        const auto i = static_cast<size_t>(n);
-        const int fila = columnas ? n % 10 : (n - 1) / 5, columna = 3 * (columnas ? n / 10 : (n - 1) % 5);
-        r.numero[i] = CrearEtiqueta(Qt::AlignLeft, Q("49"), false);
-        r.numero[i]->setText(QString::number(n));
-        r.lblN[i] = CrearEtiqueta(Qt::AlignRight, Q("100%"), true);
-        r.lblN[i]->setObjectName(NombreIndexado("lblN", n - 1));
-        r.lblN[i]->setToolTip(Q("Parte de las apuestas que lleva el ") + QString::number(n));
-        r.rejilla->addWidget(r.numero[i], fila, columna);
-        r.rejilla->addWidget(r.lblN[i], fila, columna + 1);
-        ColorearCelda(r, i);
-    }
     for (const int c : {2, 5, 8, 11}) r.rejilla->setColumnMinimumWidth(c, Hueco);
+    r.numero.resize(cuantos);
+    r.lblN.resize(cuantos);
+    r.conApuestas.resize(cuantos);
     return r;
 }
 
-void PintarRejillaPorcentajes(RejillaPorcentajes& r, const std::array<std::string, NumeroMaximoBoleto + 1>& textos,
-                              const std::array<bool, NumeroMaximoBoleto + 1>& conApuestas) {
-    for (size_t n = 1; n < textos.size() && r.lblN[n] != nullptr; ++n) {
+// Cell `i` in its row and in one of the five columns of pairs.
+void PonerCelda(RejillaPorcentajes& r, size_t i, const QString& nombre, std::string_view masAncha, int fila,
+                int columna) {
+    const QString texto = QString::number(i);
+    r.numero[i] = CrearEtiqueta(Qt::AlignLeft, Q("49"), false);
+    r.numero[i]->setText(texto);
+    r.lblN[i] = CrearEtiqueta(Qt::AlignRight, Q(masAncha), true);
+    r.lblN[i]->setObjectName(nombre);
+    r.lblN[i]->setToolTip(Q("Parte de las apuestas que lleva el ") + texto);
+    r.rejilla->addWidget(r.numero[i], fila, 3 * columna);
+    r.rejilla->addWidget(r.lblN[i], fila, 3 * columna + 1);
+    ColorearCelda(r, i);
+}
+
+} // namespace
+
+RejillaPorcentajes CrearRejillaPorcentajes(int maximo, std::string_view masAncha) {
+    RejillaPorcentajes r = CrearPapel(static_cast<size_t>(maximo) + 1);
+    const bool columnas = maximo == NumeroMaximoBoleto;
+    for (int n = 1; n <= maximo; ++n)
+        PonerCelda(r, static_cast<size_t>(n), NombreIndexado("lblN", n - 1), masAncha, columnas ? n % 10 : (n - 1) / 5,
+                   columnas ? n / 10 : (n - 1) % 5);
+    return r;
+}
+
+RejillaPorcentajes CrearRejillaPorcentajesDigitos(const Juego& juego, std::string_view masAncha) {
+    RejillaPorcentajes r = CrearPapel(static_cast<size_t>(juego.DigitoMaximo) + 1);
+    for (int d = juego.DigitoMinimo; d <= juego.DigitoMaximo; ++d) {
+        const int lugar = d - juego.DigitoMinimo;
+        PonerCelda(r, static_cast<size_t>(d), NombreIndexado("lblR", d), masAncha, lugar / 5, lugar % 5);
+    }
+    return r;
+}
+
+void PintarRejillaPorcentajes(RejillaPorcentajes& r, std::span<const std::string> textos,
+                              std::span<const bool> conApuestas) {
+    for (size_t n = 0; n < r.lblN.size() && n < textos.size(); ++n) {
+        if (r.lblN[n] == nullptr) continue;
         r.lblN[n]->setText(Q(textos[n]));
         if (r.conApuestas[n] == conApuestas[n]) continue;
         r.conApuestas[n] = conApuestas[n];

@@ -253,6 +253,31 @@ TEST(LogicaPrincipal, CalculoDePruebaNoGuardaYCuenta) {
     EXPECT_EQ(v.logica.lblApuestasCondicionadas(), "Fil. Sumas");
 }
 
+TEST(LogicaPrincipal, LosInformesDelMenu) {
+    const CarpetaTemporal carpeta;
+    Ventana v;
+    v.entorno.CarpetaInformes = carpeta.Ruta();
+    v.logica.Hacer(Orden::VerResumenFiltros);
+    v.logica.Hacer(Orden::InformeApuestasEliminadas);
+    EXPECT_EQ(v.Informes, (Textos{carpeta.Ruta("TOMBOLERA_INFORME.txt"), carpeta.Ruta("TOMBOLERA_RESUMEN.txt")}));
+    EXPECT_TRUE(LeerTodo(v.Informes[0]).starts_with("RESUMEN\r\n"));
+    EXPECT_TRUE(LeerTodo(v.Informes[1]).starts_with("TOTAL Apuestas Iniciales"));
+    EXPECT_TRUE(v.trabajo.CombinacionGuardada);
+}
+
+TEST(LogicaPrincipal, ElAnalisisPideApuestas) {
+    Ventana v;
+    v.MarcarHasta(7);
+    v.logica.PulsarReintegro(3);
+    EXPECT_FALSE(v.logica.PuedeAbrir(Orden::Analisis));
+    EXPECT_EQ(v.Cajas, Textos{"[X] ERROR: No hay apuestas generadas"});
+    v.logica.Hacer(Orden::CalculoPrueba);
+    EXPECT_TRUE(v.logica.PuedeAbrir(Orden::Analisis));
+    v.logica.PulsarNumero(7); // the earlier system is still in its table
+    EXPECT_FALSE(v.logica.PuedeAbrir(Orden::Analisis));
+    EXPECT_EQ(v.Cajas.size(), 2u);
+}
+
 TEST(LogicaPrincipal, LaAyudaAbreElSitioOElManualInstalado) {
     Ventana v;
     v.logica.Hacer(Orden::AyudaOnline);

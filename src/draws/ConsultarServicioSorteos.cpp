@@ -1,16 +1,17 @@
 #include "ConsultarServicioSorteos.h"
 
 #include <algorithm>
-#include <charconv>
 #include <concepts>
-#include <cstring>
+#include <cstdlib>
 #include <limits>
+#include <new>
 
 #include <pugixml.hpp>
 
 #include "modGeneral.h"
 
 struct RespuestaServicio::Documento {
+    std::string cuerpo; // the parser works in it
     pugi::xml_document xml;
 };
 
@@ -19,6 +20,22 @@ namespace {
 constexpr std::string_view RutaServicio = "/servicios/v1/xml2/eurodreams?";
 constexpr std::array<const char*, NCategoriasServicio> NombresCategoria{"CAT6R", "CAT6", "CAT5C",
                                                                         "CAT5",  "CAT4", "CAT3"};
+
+// Empty for a document without a fault.
+std::string MotivoDe(pugi::xml_parse_status estado) {
+    switch (estado) {
+    case pugi::status_ok:
+        return "";
+    case pugi::status_out_of_memory:
+        return "no hay memoria suficiente";
+    case pugi::status_no_document_element:
+        return "la respuesta no tiene ningún elemento";
+    case pugi::status_end_element_mismatch:
+        return "las etiquetas de la respuesta no casan";
+    default:
+        return "la respuesta no es un documento XML bien formado";
+    }
+}
 
 bool MismoNombre(std::string_view a, std::string_view b) {
     const auto mayuscula = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; };
@@ -68,11 +85,15 @@ class Atributos {
 
     void Importe(const char* nombre, double& destino) {
         const std::string_view texto = Texto(nombre);
-        if (bien_ && !LeerImporte(texto, destino)) Fallar("el importe '" + Corto(texto) + "' no es un número");
+        if (bien_ && (texto.empty() || !LeerImporte(texto, destino)))
+            Fallar("el importe '" + Corto(texto) + "' no es un número");
     }
 
-    // A whole number that may be blank, for 0.
-    void Cantidad(const char* nombre, int32_t& destino) {
+    // The attribute has to be there but may be blank, for 0.
+    void PremioOBlanco(const char* nombre, double& destino) {
+        if (!Texto(nombre).empty()) Importe(nombre, destino);
+    }
+    void CantidadOBlanco(const char* nombre, int32_t& destino) {
         if (!Texto(nombre).empty()) Valor(nombre, destino);
     }
 
@@ -128,8 +149,8 @@ bool LeerCategorias(pugi::xml_node nodo, SorteoConPremios& sorteo, std::string& 
         for (size_t c = 0; c < NCategoriasServicio; ++c) {
             const bool bien = CadaHijo(escrutinio, NombresCategoria[c], [&](pugi::xml_node categoria) {
                 Atributos atributos(categoria, fallo);
-                atributos.Importe("premio", sorteo.categoria[c].premio);
-                if (c != CAT6R) atributos.Cantidad("acertantes", sorteo.categoria[c].acertantes);
+                atributos.PremioOBlanco("premio", sorteo.categoria[c].premio);
+                if (c != CAT6R) atributos.CantidadOBlanco("acertantes", sorteo.categoria[c].acertantes);
                 return atributos.Bien();
             });
             if (!bien) return false;
@@ -144,8 +165,10 @@ RespuestaServicio::RespuestaServicio() : documento_(std::make_unique<Documento>(
 RespuestaServicio::~RespuestaServicio() = default;
 
 bool RespuestaServicio::Analizar(std::string cuerpo) {
-    const pugi::xml_parse_result resultado = documento_->xml.load_buffer(cuerpo.data(), cuerpo.size());
-    motivo_ = resultado ? "" : resultado.description();
+    documento_->cuerpo = std::move(cuerpo);
+    const pugi::xml_parse_result resultado =
+        documento_->xml.load_buffer_inplace(documento_->cuerpo.data(), documento_->cuerpo.size());
+    motivo_ = MotivoDe(resultado.status);
     return Legible();
 }
 
@@ -180,8 +203,18 @@ bool ConsultarServicioSorteos(RespuestaServicio& respuesta, const std::string& c
         return false;
     }
     std::string cuerpo;
-    if (!entorno.PedirHttp(entorno.Servicio + std::string(RutaServicio) + consulta, cuerpo, respuesta.fallo_))
+    const std::string base = entorno.Servicio.substr(0, entorno.Servicio.find_last_not_of('/') + 1);
+    try {
+        if (!entorno.PedirHttp(base + std::string(RutaServicio) + consulta, cuerpo, respuesta.fallo_)) return false;
+        respuesta.Analizar(std::move(cuerpo));
+        return true;
+    } catch (const std::bad_alloc&) {
+        respuesta.fallo_ = "no hay memoria suficiente";
         return false;
-    respuesta.Analizar(std::move(cuerpo));
-    return true;
+    }
+}
+
+std::string ServicioConfigurado() {
+    const char* deEntorno = std::getenv("TOMBOLERA_SERVICIO");
+    return deEntorno != nullptr ? deEntorno : TOMBOLERA_SERVICIO;
 }

@@ -48,8 +48,9 @@ class RespuestaServicio {
     const std::string& Motivo() const { return motivo_; }
 
     /// The draws of a game ("PRIMITIVA", ...) in the answer's order, added behind those of `sorteos`.
-    /// Names match in any case, elements of another name are skipped. On a value that is missing or
-    /// does not fit: false, `Fallo` tells which, and `sorteos` holds those before it.
+    /// Names match in any case, elements of another name are skipped. Numbers are any of 0 to 255, the
+    /// day may be unknown: what the rest of the program cannot use, its reader refuses. On a value that
+    /// is missing or does not fit: false, `Fallo` tells which, and `sorteos` holds those before it.
     bool LeerCombinaciones(std::string_view juego, Sorteos& sorteos);
     /// The same for the draws with their prizes.
     bool LeerSorteos(std::string_view juego, std::vector<SorteoConPremios>& sorteos);
@@ -66,6 +67,10 @@ class RespuestaServicio {
 /// Asks the service with these query keys ("temporada=todas&juego=BONOLOTO"). False when no answer
 /// came: `respuesta.Fallo` tells why. With an answer true, also when it turns out to be no XML.
 bool ConsultarServicioSorteos(RespuestaServicio& respuesta, const std::string& consulta, Entorno& entorno);
+
+/// Base address of the service: the environment variable TOMBOLERA_SERVICIO, else what the program was
+/// built with. Empty when neither is set.
+std::string ServicioConfigurado();
 
 /// Reads an amount in either notation: the last of "." and "," followed by one or two final digits is
 /// the decimal one, the others group. A blank counts as 0. False when it is no amount.

@@ -113,6 +113,34 @@ CLI::Option* OpcionJuego(CLI::App* orden, int& juego) {
     return orden->add_option("--juego", leer, "PRIMITIVA (si falta), BONOLOTO o EURODREAMS")->type_name("J");
 }
 
+CLI::Option* EnteroEntre(CLI::App* orden, const std::string& nombre, int& valor, int minimo, int maximo,
+                         const std::string& descripcion) {
+    const auto leer = [&valor, nombre, minimo, maximo](const CLI::results_t& valores) {
+        if (!LeerEntero(valores.front(), valor) || valor < minimo || valor > maximo)
+            throw CLI::ValidationError(nombre, "se espera un número de " + std::to_string(minimo) + " a " +
+                                                   std::to_string(maximo) + ", no " + valores.front());
+        return true;
+    };
+    return orden->add_option(nombre, leer, descripcion)->type_name("N");
+}
+
+CLI::Option* OpcionIntervalo(CLI::App* orden, const std::string& nombre, std::string& desde, std::string& hasta,
+                             const std::string& descripcion) {
+    const auto leer = [&desde, &hasta, nombre](const CLI::results_t& valores) {
+        const std::string& texto = valores.front();
+        const size_t guion = texto.find('-');
+        const auto sonCifras = [](const std::string& t) {
+            return !t.empty() && t.find_first_not_of("0123456789") == std::string::npos;
+        };
+        desde = texto.substr(0, guion);
+        hasta = guion == std::string::npos ? "" : texto.substr(guion + 1);
+        if (!sonCifras(desde) || !sonCifras(hasta))
+            throw CLI::ValidationError(nombre, "se esperan dos números como 10-20, no " + texto);
+        return true;
+    };
+    return orden->add_option(nombre, leer, descripcion)->type_name("A-B");
+}
+
 CLI::Option* Entero(CLI::App* orden, const std::string& nombre, int32_t& valor, int32_t minimo,
                     const std::string& descripcion) {
     const auto leer = [&valor, nombre, minimo](const CLI::results_t& valores) {

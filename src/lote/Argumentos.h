@@ -22,6 +22,14 @@ CLI::Option* Fichero(CLI::App* orden, const std::string& nombre, std::string& ru
 /// `--juego`, as the position in the list of games.
 CLI::Option* OpcionJuego(CLI::App* orden, int& juego);
 
+/// A whole number of `minimo` to `maximo`.
+CLI::Option* EnteroEntre(CLI::App* orden, const std::string& nombre, int& valor, int minimo, int maximo,
+                         const std::string& descripcion);
+
+/// Two whole numbers of 0 or more, "A-B", as the texts of the two fields that they are for.
+CLI::Option* OpcionIntervalo(CLI::App* orden, const std::string& nombre, std::string& desde, std::string& hasta,
+                             const std::string& descripcion);
+
 /// A whole number from `minimo` up that fits 32 bits.
 CLI::Option* Entero(CLI::App* orden, const std::string& nombre, int32_t& valor, int32_t minimo,
                     const std::string& descripcion);

@@ -7,6 +7,8 @@
 
 void DeclararCalcular(CLI::App& programa, Lote& lote);
 void DeclararBase(CLI::App& programa, Lote& lote);
+void DeclararEstadisticas(CLI::App& programa, Lote& lote);
+void DeclararActualizar(CLI::App& programa, Lote& lote);
 void DeclararVer(CLI::App& programa, Lote& lote);
 void DeclararResumen(CLI::App& programa, Lote& lote);
 void DeclararEliminadas(CLI::App& programa, Lote& lote);

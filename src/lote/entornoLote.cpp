@@ -2,6 +2,10 @@
 
 #include <fmt/format.h>
 
+#include "ClienteHttp.h"
+#include "ConsultarServicioSorteos.h"
+#include "Parada.h"
+
 namespace {
 
 std::string TextoProgreso(const EstadoTrabajo& trabajo) {
@@ -20,6 +24,14 @@ Entorno CrearEntornoLote(const OpcionesLote& opciones, const Sesion& sesion, Con
         return si;
     };
     entorno.CederTurno = [&consola, &sesion] { consola.Progreso([&sesion] { return TextoProgreso(sesion.trabajo); }); };
+    entorno.PedirHttp = [&consola](const std::string& url, std::string& cuerpo, std::string& fallo) {
+        const auto seguir = [&consola] {
+            consola.Progreso([] { return std::string("Esperando al servicio de sorteos"); });
+            return !ParadaPedida();
+        };
+        return PedirHttp(url, cuerpo, fallo, seguir);
+    };
+    entorno.Servicio = opciones.Servicio.empty() ? ServicioConfigurado() : opciones.Servicio;
     entorno.Ahora = AhoraDelSistema;
     entorno.CarpetaInformes = opciones.Carpeta;
     return entorno;

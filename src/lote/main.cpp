@@ -34,6 +34,8 @@ int main(int argc, char** argv) {
     DeclararPrograma(programa, lote.opciones);
     DeclararCalcular(programa, lote);
     DeclararBase(programa, lote);
+    DeclararEstadisticas(programa, lote);
+    DeclararActualizar(programa, lote);
     DeclararVer(programa, lote);
     DeclararResumen(programa, lote);
     DeclararEliminadas(programa, lote);

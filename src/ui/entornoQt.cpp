@@ -12,6 +12,8 @@
 #include <QStandardPaths>
 #include <QUrl>
 
+#include "ClienteHttp.h"
+#include "ConsultarServicioSorteos.h"
 #include "Pintores.h"
 #include "TextoQt.h"
 #include "frmInforme.h"
@@ -167,6 +169,14 @@ Entorno EntornoQt() {
     entorno.MostrarVentanaProceso = MostrarVentanaProceso;
     entorno.VerInforme = VerInforme;
     entorno.AbrirDireccion = AbrirDireccion;
+    entorno.PedirHttp = [](const std::string& url, std::string& cuerpo, std::string& fallo) {
+        const auto seguir = [] {
+            CederTurno();
+            return true;
+        };
+        return PedirHttp(url, cuerpo, fallo, seguir);
+    };
+    entorno.Servicio = ServicioConfigurado();
     entorno.Ahora = AhoraDelSistema;
     entorno.Pitar = [] { QApplication::beep(); };
     entorno.CarpetaInformes = CarpetaInformes();

@@ -7,6 +7,7 @@
 
 #include "Guion.h"
 #include "Pintores.h"
+#include "ServicioLocal.h"
 #include "Ventanas.h"
 #include "frmInforme.h"
 
@@ -77,4 +78,18 @@ TEST(entornoQt, ElVisorLeeLaPaginaDeCodigosDelInforme) {
     EscribirTodo(carpeta.Ruta("informe.txt"), "Sue\xF1os\r\n12\r\n");
     const frmInforme informe(Q(carpeta.Ruta("informe.txt")), nullptr);
     EXPECT_EQ(Utf8(Hijo<QPlainTextEdit>(informe, "texto")->toPlainText()), "Sueños\n12\n");
+}
+
+TEST(entornoQt, LasVentanasSePintanMientrasSeEsperaAlServicio) {
+    ServicioLocal servicio;
+    servicio.Responder({.Cuerpo = std::string(20, 'x'), .Trozo = 1, .Pausa = std::chrono::milliseconds(25)});
+    setenv("TOMBOLERA_SERVICIO", servicio.Direccion().c_str(), 1);
+    const Entorno entorno = EntornoQt();
+    unsetenv("TOMBOLERA_SERVICIO");
+    int pintadas = 0;
+    const Pintor una([&] { ++pintadas; });
+    std::string cuerpo, fallo;
+    EXPECT_TRUE(entorno.PedirHttp(entorno.Servicio, cuerpo, fallo)) << fallo;
+    EXPECT_EQ(cuerpo, std::string(20, 'x'));
+    EXPECT_GE(pintadas, 5);
 }

@@ -9,6 +9,7 @@
 
 #include "DialogosFiltro.h"
 #include "Guion.h"
+#include "Pintores.h"
 #include "Sesiones.h"
 #include "TablaFiltros.h"
 #include "Ventanas.h"
@@ -74,18 +75,20 @@ struct ConRejillas {
     std::function<const MarcasNumeros&(const Condiciones&, size_t)> marcas;
 };
 
-const ConRejillas ConRejilla[] = {{kPOSICIONES, 6, [](auto& c, size_t i) -> auto& {return c.POSICIONES.Bola[i];
-} // namespace
+const MarcasNumeros& Bola(const Condiciones& c, size_t i) {
+    return c.POSICIONES.Bola[i];
 }
-, {kGRUPOS, 3, [](auto& c, size_t i) -> auto& {return c.GRUPOS.grupo[i].numeros;
+
+const MarcasNumeros& Grupo(const Condiciones& c, size_t i) {
+    return c.GRUPOS.grupo[i].numeros;
 }
+
+const MarcasNumeros& GrupoEntreLimites(const Condiciones& c, size_t i) {
+    return c.GRUPOSENTRELIMITES.grupo[i].numeros;
 }
-, {kGRUPOSENTRELIMITES, 3, [](auto& c, size_t i) -> auto& {return c.GRUPOSENTRELIMITES.grupo[i].numeros;
-}
-}
-,
-}
-;
+
+const ConRejillas ConRejilla[] = {
+    {kPOSICIONES, 6, Bola}, {kGRUPOS, 3, Grupo}, {kGRUPOSENTRELIMITES, 3, GrupoEntreLimites}};
 
 } // namespace
 
@@ -373,6 +376,51 @@ TEST(DialogosDeBloques, CRGuardaPorcentajesYCoeficientes) {
     EXPECT_EQ(Hijo<QListWidget>(*dialogo, "lstCR")->item(13)->checkState(), Qt::Checked);
     EXPECT_EQ(Hijo<QListWidget>(*dialogo, "lstCR")->item(14)->checkState(), Qt::Unchecked);
     EXPECT_EQ(Texto(*dialogo, "txtPorcentajesApostados_48"), "7");
+}
+
+TEST(DialogosDeBloques, CRSeEligeConUnClicEnCualquierSitioDeLaFila) {
+    Guion guion;
+    const auto dialogo = Abierto(guion, kCOEFICIENTERENTABILIDAD);
+    auto* lista = Hijo<QListWidget>(*dialogo, "lstCR");
+    const auto elegido = [&](int fila) { return lista->item(fila)->checkState() == Qt::Checked; };
+    const auto pulsar = [&](int fila, double ancho) {
+        const QRect r = lista->visualItemRect(lista->item(fila));
+        EXPECT_GE(r.height(), 22);
+        QTest::mouseClick(lista->viewport(), Qt::LeftButton, {},
+                          {r.left() + static_cast<int>(ancho * r.width()), r.center().y()});
+    };
+    for (const double ancho : {0.05, 0.3, 0.95}) {
+        SCOPED_TRACE(ancho);
+        pulsar(4, ancho);
+        EXPECT_TRUE(elegido(4));
+        EXPECT_FALSE(elegido(3));
+        pulsar(4, ancho);
+        EXPECT_FALSE(elegido(4));
+    }
+    const QPoint texto = lista->visualItemRect(lista->item(2)).center();
+    QTest::mouseClick(lista->viewport(), Qt::RightButton, {}, texto);
+    EXPECT_FALSE(elegido(2));
+    QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, texto);
+    QTest::mouseDClick(lista->viewport(), Qt::LeftButton, {}, texto);
+    EXPECT_TRUE(elegido(2));
+    Pulsar(*dialogo, "imgVolver");
+    EXPECT_EQ(guion.sesion.condiciones.COEFICIENTERENTABILIDAD.RangosCR[2], 1);
+}
+
+TEST(DialogosDeBloques, CRNoAdmiteOrdenesMientrasCalcula) {
+    Guion guion;
+    const auto dialogo = Abierto(guion, kCOEFICIENTERENTABILIDAD);
+    const auto* boton = Boton(*dialogo, "imgCalcular");
+    std::vector<bool> habilitado;
+    guion.entorno.CederTurno = [&] {
+        PintarAbiertas();
+        habilitado = {boton->isEnabled(), Hijo<QListWidget>(*dialogo, "lstCR")->isEnabled(),
+                      Hijo<QLineEdit>(*dialogo, "txtPorcentajesReales_0")->isEnabled()};
+    };
+    Pulsar(*dialogo, "imgCalcular");
+    EXPECT_EQ(habilitado, std::vector<bool>(3, false));
+    EXPECT_TRUE(boton->isEnabled());
+    EXPECT_EQ(guion.Cajas, Textos{});
 }
 
 TEST(DialogosDeBloques, CREscribeYLeeCadaTabla) {

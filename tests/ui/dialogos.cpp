@@ -11,8 +11,13 @@
 
 namespace {
 
-DialogoProbado DeFila(const std::string& nombre, int k, bool soloVolver = false) {
-    return {nombre, [k](Guion& g) { return CrearDialogoFiltro(k, g.sesion, g.entorno, nullptr); }, soloVolver};
+DialogoProbado DeFila(const std::string& nombre, int k, bool soloVolver = false, bool cambiaConJuego = false) {
+    return {nombre, [k](Guion& g) { return CrearDialogoFiltro(k, g.sesion, g.entorno, nullptr); }, soloVolver,
+            cambiaConJuego};
+}
+
+DialogoProbado ConNumeros(const std::string& nombre, int k, bool soloVolver = false) {
+    return DeFila(nombre, k, soloVolver, true);
 }
 
 // The chooser works on a scratch copy of its caller's.
@@ -61,21 +66,21 @@ const std::vector<DialogoProbado>& Dialogos() {
         DeFila("frmFiltroALTOSBAJOS", kALTOSBAJOS),
         DeFila("frmFiltroDECENAS", kDECENAS),
         DeFila("frmFiltroDISTANCIAS", kDISTANCIAS),
-        DeFila("frmFiltroGRUPOS", kGRUPOS),
-        DeFila("frmFiltroGRURELACIONADOS", kGRUPOSRELACIONADOS, true),
+        ConNumeros("frmFiltroGRUPOS", kGRUPOS),
+        ConNumeros("frmFiltroGRURELACIONADOS", kGRUPOSRELACIONADOS, true),
         DeFila("frmFiltroHOMOLOGOS", kHOMOLOGOS),
         DeFila("frmFiltroPARESIMPARES", kPARESIMPARES),
         DeFila("frmFiltroSEGUIDOS", kSEGUIDOS),
         DeFila("frmFiltroSUMAS", kSUMAS),
         DeFila("frmFiltroTERMINACIONES", kTERMINACIONES),
-        DeFila("frmFiltroPOSICIONES", kPOSICIONES),
+        ConNumeros("frmFiltroPOSICIONES", kPOSICIONES),
         DeFila("frmFiltroEXTERIORES", kEXTERIORESINTERIORES),
         DeFila("frmFiltroSUPERIORES", kSUPERIORESINFERIORES),
         DeFila("frmFiltroCOLINDANTES", kCOLINDANTES),
         DeFila("frmFiltroSUMASPORTRIOS", kSUMASPORTRIOS),
-        {"frmFiltroVALORACIONES", Valoraciones, true},
-        DeFila("frmFiltroCR", kCOEFICIENTERENTABILIDAD, true),
-        DeFila("frmFiltroGRUPOSENTRELIMITES", kGRUPOSENTRELIMITES),
+        {"frmFiltroVALORACIONES", Valoraciones, true, true},
+        ConNumeros("frmFiltroCR", kCOEFICIENTERENTABILIDAD, true),
+        ConNumeros("frmFiltroGRUPOSENTRELIMITES", kGRUPOSENTRELIMITES),
         DeFila("frmReduccion", FilaReduccion),
         {"frmVentanaProceso", VentanaProceso, true},
         {"frmAnalisis", Analisis},

@@ -13,7 +13,8 @@
 struct DialogoProbado {
     std::string nombre;
     std::function<std::unique_ptr<QDialog>(Guion&)> crear;
-    bool soloVolver = false; ///< refuses Esc and the cross
+    bool soloVolver = false;     ///< refuses Esc and the cross
+    bool cambiaConJuego = false; ///< shows the numbers of the game
 };
 
 const std::vector<DialogoProbado>& Dialogos();

@@ -201,3 +201,16 @@ TEST(Dialogos, Retratos) {
     }
     QApplication::setPalette(clara);
 }
+
+TEST(Dialogos, RetratosDeCadaJuego) {
+    for (const DialogoProbado& probado : Dialogos()) {
+        if (!probado.cambiaConJuego) continue;
+        for (const int juego : {PRIMITIVA, BONOLOTO, EURODREAMS}) {
+            Guion guion;
+            CambiarJuego(guion.sesion, juego);
+            const auto dialogo = probado.crear(guion);
+            dialogo->show();
+            Retratar(*dialogo, Q(probado.nombre) + Q("_") + Q(Juegos[static_cast<size_t>(juego)].Nombre), 1);
+        }
+    }
+}

@@ -4,6 +4,7 @@
 
 frmFiltroDISTANCIAS::frmFiltroDISTANCIAS(Sesion& sesion, Entorno& entorno, QWidget* padre)
     : QDialog(padre), logica{sesion, entorno} {
+    using L = LogicaFiltroDISTANCIAS;
     marco = CrearMarcoFiltro(*this, "frmFiltroDISTANCIAS",
                              "Qué distancia puede haber entre los números de la apuesta, de menor a mayor; deben "
                              "cumplirse todas las que no sean 0.",
@@ -15,26 +16,13 @@ frmFiltroDISTANCIAS::frmFiltroDISTANCIAS(Sesion& sesion, Entorno& entorno, QWidg
         const bool general = i + 1 == distancias.size();
         const QString etiqueta = Q(general ? "Distancia general, " : "Distancia entre ") + Q(par.Palabras);
         const QString nombre = Q("txtDistancia") + Q(par.Cifras);
-        distancias[i] = CrearFilaIntervalo(*rejilla, static_cast<int>(i) + 1,
-                                           {.etiqueta = etiqueta,
-                                            .nombreMinimo = nombre + Q("Min"),
-                                            .nombreMaximo = nombre + Q("Max"),
-                                            .que = etiqueta,
-                                            .alCambiarMinimo =
-                                                [this, i](const std::string& texto) {
-                                                    logica.CambiarMin(i, texto);
-                                                    Pintar();
-                                                },
-                                            .alCambiarMaximo =
-                                                [this, i](const std::string& texto) {
-                                                    logica.CambiarMax(i, texto);
-                                                    Pintar();
-                                                },
-                                            .alPulsar =
-                                                [this] {
-                                                    logica.marco.ActivarFiltro();
-                                                    Pintar();
-                                                }});
+        distancias[i] =
+            CrearFilaIntervalo(*rejilla, static_cast<int>(i) + 1,
+                               {.etiqueta = etiqueta,
+                                .nombreMinimo = nombre + Q("Min"),
+                                .nombreMaximo = nombre + Q("Max"),
+                                .que = etiqueta},
+                               EfectosDeIntervalo(logica, i, &L::CambiarMin, &L::CambiarMax, [this] { Pintar(); }));
     }
     TerminarMarco(marco, *this, logica.marco);
     logica.Abrir();

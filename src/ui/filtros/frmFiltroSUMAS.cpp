@@ -4,6 +4,7 @@
 
 frmFiltroSUMAS::frmFiltroSUMAS(Sesion& sesion, Entorno& entorno, QWidget* padre)
     : QDialog(padre), logica{sesion, entorno} {
+    using L = LogicaFiltroSUMAS;
     marco = CrearMarcoFiltro(*this, "frmFiltroSUMAS",
                              "Entre qué valores puede estar la suma de los seis números; basta con un intervalo.",
                              logica.marco);
@@ -12,27 +13,14 @@ frmFiltroSUMAS::frmFiltroSUMAS(Sesion& sesion, Entorno& entorno, QWidget* padre)
     for (size_t i = 0; i < intervalos.size(); ++i) {
         const int fila = static_cast<int>(i) + 1;
         const QString etiqueta = Q("Intervalo ") + QString::number(fila);
-        intervalos[i] = CrearFilaIntervalo(*rejilla, fila,
-                                           {.etiqueta = etiqueta,
-                                            .nombreMinimo = NombreIndexado("txtSumaMinima", fila - 1),
-                                            .nombreMaximo = NombreIndexado("txtSumaMaxima", fila - 1),
-                                            .que = etiqueta,
-                                            .or_ = i + 1 < intervalos.size(),
-                                            .alCambiarMinimo =
-                                                [this, i](const std::string& texto) {
-                                                    logica.CambiarMinima(i, texto);
-                                                    Pintar();
-                                                },
-                                            .alCambiarMaximo =
-                                                [this, i](const std::string& texto) {
-                                                    logica.CambiarMaxima(i, texto);
-                                                    Pintar();
-                                                },
-                                            .alPulsar =
-                                                [this] {
-                                                    logica.marco.ActivarFiltro();
-                                                    Pintar();
-                                                }});
+        intervalos[i] = CrearFilaIntervalo(
+            *rejilla, fila,
+            {.etiqueta = etiqueta,
+             .nombreMinimo = NombreIndexado("txtSumaMinima", fila - 1),
+             .nombreMaximo = NombreIndexado("txtSumaMaxima", fila - 1),
+             .que = etiqueta,
+             .or_ = i + 1 < intervalos.size()},
+            EfectosDeIntervalo(logica, i, &L::CambiarMinima, &L::CambiarMaxima, [this] { Pintar(); }));
     }
     TerminarMarco(marco, *this, logica.marco);
     logica.Abrir();

@@ -28,25 +28,14 @@ void frmFiltroSUMASPORTRIOS::CrearTrio(QBoxLayout& donde, std::string_view titul
     for (size_t i = 0; i < filas.size(); ++i) {
         const int fila = static_cast<int>(i);
         const QString etiqueta = Q("Intervalo ") + QString::number(fila + 1);
-        const auto al = [this, i](Cambiar cambiar) {
-            return [this, i, cambiar](const std::string& texto) {
-                (logica.*cambiar)(i, texto);
-                Pintar();
-            };
-        };
         filas[i] = CrearFilaIntervalo(
             *rejilla, fila + 1,
             {.etiqueta = etiqueta,
              .nombreMinimo = NombreIndexado(Utf8(Q("txtSumaMinima") + trio), fila),
              .nombreMaximo = NombreIndexado(Utf8(Q("txtSumaMaxima") + trio), fila),
              .que = (trio == Q("T1") ? Q("Tres primeros números, ") : Q("Tres últimos números, ")) + etiqueta.toLower(),
-             .or_ = i + 1 < filas.size(),
-             .alCambiarMinimo = al(cambiarMinima),
-             .alCambiarMaximo = al(cambiarMaxima),
-             .alPulsar = [this] {
-                 logica.marco.ActivarFiltro();
-                 Pintar();
-             }});
+             .or_ = i + 1 < filas.size()},
+            EfectosDeIntervalo(logica, i, cambiarMinima, cambiarMaxima, [this] { Pintar(); }));
     }
 }
 

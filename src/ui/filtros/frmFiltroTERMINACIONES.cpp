@@ -53,24 +53,14 @@ void frmFiltroTERMINACIONES::CrearFiguras(QBoxLayout& donde) {
 
 void frmFiltroTERMINACIONES::CrearSuma(QBoxLayout& donde) {
     QGridLayout* rejilla = CrearCaja(donde, "SUMA DE TERMINACIONES");
-    const auto alPulsar = [this] {
-        logica.marco.ActivarFiltro();
-        Pintar();
+    using L = LogicaFiltroTERMINACIONES;
+    const auto campo = [this](const char* nombre, const char* ayuda, void (L::*cambiar)(const std::string&)) {
+        return CrearCampoNumero(
+            Q(nombre), Q(ayuda), [this, cambiar](const std::string& texto) { (logica.*cambiar)(texto), Pintar(); },
+            [this] { logica.marco.ActivarFiltro(), Pintar(); });
     };
-    txtSumaTerminacionesMinimo = CrearCampoNumero(
-        Q("txtSumaTerminacionesMinimo"), Q("Suma de terminaciones mínima"),
-        [this](const std::string& texto) {
-            logica.CambiarMinimo(texto);
-            Pintar();
-        },
-        alPulsar);
-    txtSumaTerminacionesMaximo = CrearCampoNumero(
-        Q("txtSumaTerminacionesMaximo"), Q("Suma de terminaciones máxima"),
-        [this](const std::string& texto) {
-            logica.CambiarMaximo(texto);
-            Pintar();
-        },
-        alPulsar);
+    txtSumaTerminacionesMinimo = campo("txtSumaTerminacionesMinimo", "Suma de terminaciones mínima", &L::CambiarMinimo);
+    txtSumaTerminacionesMaximo = campo("txtSumaTerminacionesMaximo", "Suma de terminaciones máxima", &L::CambiarMaximo);
     rejilla->addWidget(new QLabel(Q("Mínimo valor permitido 2(10,11,20,30,40,41)")), 0, 0);
     rejilla->addWidget(txtSumaTerminacionesMinimo, 0, 1);
     rejilla->addWidget(new QLabel(Q("Máximo valor permitido 53(09,19,29,39,48,49)")), 1, 0);

@@ -77,6 +77,7 @@ QComboBox* frmFiltroVALORACIONES::CrearLista(int numero, QAbstractItemModel* mar
 }
 
 void frmFiltroVALORACIONES::CrearIntervalos(QBoxLayout& donde) {
+    using L = LogicaFiltroVALORACIONES;
     QGridLayout* rejilla = CrearCaja(donde, "SUMA DE VALORACIONES DE LA APUESTA");
     CrearCabeceraIntervalos(*rejilla, Q("Mínima"), Q("Máxima"));
     for (size_t i = 0; i < intervalos.size(); ++i) {
@@ -88,10 +89,8 @@ void frmFiltroVALORACIONES::CrearIntervalos(QBoxLayout& donde) {
              .nombreMinimo = NombreIndexado("txtValoracionMinima", fila),
              .nombreMaximo = NombreIndexado("txtValoracionMaxima", fila),
              .que = etiqueta,
-             .or_ = i + 1 < intervalos.size(),
-             .alCambiarMinimo = [this, i](const std::string& texto) { logica.CambiarMinima(i, texto), Pintar(); },
-             .alCambiarMaximo = [this, i](const std::string& texto) { logica.CambiarMaxima(i, texto), Pintar(); },
-             .alPulsar = [this] { logica.marco.ActivarFiltro(), Pintar(); }});
+             .or_ = i + 1 < intervalos.size()},
+            EfectosDeIntervalo(logica, i, &L::CambiarMinima, &L::CambiarMaxima, [this] { Pintar(); }));
     }
 }
 

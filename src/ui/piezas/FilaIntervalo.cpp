@@ -10,12 +10,13 @@ void CrearCabeceraIntervalos(QGridLayout& rejilla, const QString& minimo, const 
     rejilla.setColumnStretch(0, 1);
 }
 
-FilaIntervalo CrearFilaIntervalo(QGridLayout& rejilla, int fila, PeticionFilaIntervalo p) {
+FilaIntervalo CrearFilaIntervalo(QGridLayout& rejilla, int fila, const PeticionFilaIntervalo& p,
+                                 EfectosIntervalo efectos) {
     FilaIntervalo piezas;
     piezas.minimo = CrearCampoNumero(p.nombreMinimo, p.que + QStringLiteral(", valor mínimo"),
-                                     std::move(p.alCambiarMinimo), p.alPulsar);
+                                     std::move(efectos.alCambiarMinimo), efectos.alPulsar);
     piezas.maximo = CrearCampoNumero(p.nombreMaximo, p.que + QStringLiteral(", valor máximo"),
-                                     std::move(p.alCambiarMaximo), p.alPulsar);
+                                     std::move(efectos.alCambiarMaximo), std::move(efectos.alPulsar));
     rejilla.addWidget(new QLabel(p.etiqueta), fila, 0);
     rejilla.addWidget(piezas.minimo, fila, 1);
     rejilla.addWidget(piezas.maximo, fila, 2);

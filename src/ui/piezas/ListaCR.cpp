@@ -1,5 +1,10 @@
 #include "ListaCR.h"
 
+#include <QMouseEvent>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
 #include "TextoQt.h"
 
 namespace {
@@ -8,11 +13,37 @@ Qt::CheckState Estado(bool elegido) {
     return elegido ? Qt::Checked : Qt::Unchecked;
 }
 
+// Rows high enough for the mouse, whose text works as their box does. By itself the toolkit toggles on
+// a click in the box alone.
+class FilaMarcable final : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& opcion, const QModelIndex& indice) const override {
+        constexpr int altoMinimo = 24;
+        const QSize previsto = QStyledItemDelegate::sizeHint(opcion, indice);
+        return {previsto.width(), std::max(previsto.height(), altoMinimo)};
+    }
+
+    bool editorEvent(QEvent* evento, QAbstractItemModel* modelo, const QStyleOptionViewItem& opcion,
+                     const QModelIndex& indice) override {
+        if (evento->type() == QEvent::KeyPress) return QStyledItemDelegate::editorEvent(evento, modelo, opcion, indice);
+        if (evento->type() != QEvent::MouseButtonRelease ||
+            static_cast<const QMouseEvent*>(evento)->button() != Qt::LeftButton ||
+            !(opcion.state & QStyle::State_Enabled))
+            return false;
+        const bool elegido = indice.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        return modelo->setData(indice, Estado(!elegido), Qt::CheckStateRole);
+    }
+};
+
 } // namespace
 
 QListWidget* CrearListaCR(const std::function<std::string(size_t)>& texto, std::function<void(size_t, bool)> elegir) {
     auto* lista = new QListWidget;
     lista->setObjectName(Q("lstCR"));
+    lista->setItemDelegate(new FilaMarcable(lista));
+    lista->setUniformItemSizes(true);
     lista->setAccessibleName(Q("Coeficientes permitidos"));
     lista->setToolTip(Q("Coeficientes permitidos; el último vale también para los mayores"));
     for (size_t i = 0; i < 100; ++i) {

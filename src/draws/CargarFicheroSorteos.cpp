@@ -52,7 +52,11 @@ void LogicaEstadisticas::cmdAbrirEstadisticas() {
         entorno.PedirAbrir({"Abrir Fichero",
                             {{"Ficheros de Estadísticas (*.TXT)", "*.TXT"}, {"todos los archivos (*.*)", "*.*"}},
                             std::string(FicheroEstadisticas)});
-    if (Recortar(ruta).empty()) return;
+    if (!Recortar(ruta).empty()) Soltar(ruta);
+}
+
+void LogicaEstadisticas::Soltar(const std::string& ruta) {
+    if (Ocupado()) return;
     const Bloqueo bloqueo(trabajo);
     CargarFicheroSorteos(ruta);
 }

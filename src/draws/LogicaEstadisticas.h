@@ -38,6 +38,8 @@ struct LogicaEstadisticas {
 
     // Buttons, in files of their own: the draw file ...
     void cmdAbrirEstadisticas();
+    /// A file dropped on the window.
+    void Soltar(const std::string& ruta);
     /// Loads a file; after a failure, which its box tells, no draws are loaded.
     bool CargarFicheroSorteos(const std::string& ruta);
     void imgINIFichero();

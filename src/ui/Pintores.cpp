@@ -4,23 +4,24 @@
 
 namespace {
 
-std::vector<std::function<void()>>& Abiertas() {
-    static std::vector<std::function<void()>> abiertas;
+std::vector<Pintor*>& Abiertas() {
+    static std::vector<Pintor*> abiertas;
     return abiertas;
 }
 
 } // namespace
 
-Pintor::Pintor(std::function<void()> pintar) {
-    Abiertas().push_back(std::move(pintar));
+Pintor::Pintor(std::function<void()> pintar) : pintar_(std::move(pintar)) {
+    Abiertas().push_back(this);
 }
 
+// A window that is not modal may close before those opened after it.
 Pintor::~Pintor() {
-    Abiertas().pop_back();
+    std::erase(Abiertas(), this);
 }
 
 void PintarAbiertas() {
-    for (size_t i = 0; i < Abiertas().size(); ++i) Abiertas()[i]();
+    for (size_t i = 0; i < Abiertas().size(); ++i) Abiertas()[i]->pintar_();
 }
 
 int MostrarModal(QDialog& dialogo, std::function<void()> pintar) {

@@ -6,13 +6,17 @@
 
 #include <functional>
 
-/// Keeps `pintar` among the open windows while it lives. Owners end in reverse order of birth.
+/// Keeps `pintar` among the open windows while it lives.
 class Pintor {
   public:
     explicit Pintor(std::function<void()> pintar);
     ~Pintor();
     Pintor(const Pintor&) = delete;
     Pintor& operator=(const Pintor&) = delete;
+
+  private:
+    friend void PintarAbiertas();
+    std::function<void()> pintar_;
 };
 
 /// Paints every open window from its fields, the first opened first.

@@ -42,7 +42,7 @@ frmPrincipal::frmPrincipal(Sesion& sesion, Entorno& entorno) : logica{sesion, en
     setWindowIcon(IconoPrograma());
     AceptarFicheros(
         *this, false, [this] { return !logica.Bloqueada(); },
-        [this](const auto& rutas) { logica.Soltar(rutas.front()), Pintar(); });
+        [this](const auto& rutas) { logica.Soltar(rutas.front()), PintarAbiertas(); });
     barra = CrearBarraOrdenes(this, [this](Orden orden) { Hacer(orden); });
     auto* centro = new QWidget(this);
     auto* rejilla = new QGridLayout(centro);
@@ -236,7 +236,7 @@ void frmPrincipal::Hacer(Orden orden) {
     }
     logica.Hacer(orden);
     if (logica.PuedeAbrir(orden)) AbrirVentana(orden, logica.sesion, logica.entorno, this);
-    Pintar();
+    PintarAbiertas();
 }
 
 void frmPrincipal::AbrirFila(int k) {
@@ -251,11 +251,11 @@ void frmPrincipal::CambiarTipoCombinacion(int indice) {
         frmAlazar alazar(logica.sesion.trabajo, this);
         MostrarModal(alazar);
     }
-    Pintar();
+    PintarAbiertas();
 }
 
 void frmPrincipal::closeEvent(QCloseEvent* evento) {
-    evento->setAccepted(logica.PuedeCerrar());
+    evento->setAccepted(logica.PuedeCerrar() && CerrarVentanas(*this));
 }
 
 void frmPrincipal::changeEvent(QEvent* evento) {

@@ -2,11 +2,13 @@
 
 #include "CalcularSistema.h"
 #include "DialogosFiltro.h"
+#include "HistoriaInventada.h"
 #include "TablaFiltros.h"
 #include "frmAcercaDe.h"
 #include "frmAciertos.h"
 #include "frmAlazar.h"
 #include "frmAnalisis.h"
+#include "frmEstadisticas.h"
 #include "frmVentanaProceso.h"
 
 namespace {
@@ -53,6 +55,17 @@ std::unique_ptr<QDialog> Analisis(Guion& g) {
     return std::make_unique<frmAnalisis>(g.sesion, g.entorno, g.sesion.trabajo.Contador.Reducidas, nullptr);
 }
 
+// With a history of the game and its numbers counted.
+std::unique_ptr<QDialog> Estadisticas(Guion& g) {
+    const CarpetaTemporal carpeta;
+    g.Ficheros = {carpeta.Ruta("sorteos.txt")};
+    EscribirTodo(g.Ficheros[0], TextoFicheroSorteos(SorteosInventados(g.sesion.trabajo.cboTipoJuego, 3000)));
+    auto ventana = std::make_unique<frmEstadisticas>(g.sesion.trabajo, g.entorno, nullptr);
+    ventana->findChild<QAbstractButton*>(QStringLiteral("cmdAbrirEstadisticas"))->click();
+    ventana->findChild<QAbstractButton*>(QStringLiteral("cmdConsultar"))->click();
+    return ventana;
+}
+
 // A base, without which no number takes a mark.
 std::unique_ptr<QDialog> Valoraciones(Guion& g) {
     g.MarcarHasta(14);
@@ -84,6 +97,7 @@ const std::vector<DialogoProbado>& Dialogos() {
         DeFila("frmReduccion", FilaReduccion),
         {"frmVentanaProceso", VentanaProceso, true},
         {"frmAnalisis", Analisis},
+        {"frmEstadisticas", Estadisticas, false, true},
         {"frmAciertos", Aciertos},
         {"frmAlazar", [](Guion& g) { return std::make_unique<frmAlazar>(g.sesion.trabajo, nullptr); }},
         {"frmAcercaDe", [](Guion&) { return std::make_unique<frmAcercaDe>(nullptr); }},

@@ -110,6 +110,8 @@ QPalette Oscura() {
     p.setColor(QPalette::AlternateBase, fondo);
     for (const auto rol : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text, QPalette::ToolTipText})
         p.setColor(rol, texto);
+    for (const auto rol : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+        p.setColor(QPalette::Disabled, rol, QColor(0x85, 0x85, 0x88));
     p.setColor(QPalette::ToolTipBase, fondo);
     p.setColor(QPalette::PlaceholderText, QColor(0xB0, 0xB0, 0xB0));
     p.setColor(QPalette::Highlight, QColor(0x35, 0x84, 0xE4));

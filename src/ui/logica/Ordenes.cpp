@@ -47,6 +47,7 @@ bool OrdenDisponible(Orden orden) {
     case Orden::Salir:
     case Orden::VerResumenFiltros:
     case Orden::InformeApuestasEliminadas:
+    case Orden::Estadisticas:
     case Orden::VerApuestas:
     case Orden::AyudaOnline:
     case Orden::AcercaDe:

@@ -1,34 +1,8 @@
 #include "BarraBloque.h"
 
-#include <QKeyEvent>
-
 #include "FiltroTeclas.h"
 #include "MarcoFiltro.h"
 #include "TextoQt.h"
-
-namespace {
-
-// Takes Enter before the key filter of the field swallows it.
-class FiltroIntro final : public QObject {
-  public:
-    FiltroIntro(QLineEdit& campo, std::function<void(const std::string&)> ir)
-        : QObject(&campo), campo_(campo), ir_(std::move(ir)) {}
-
-    bool eventFilter(QObject* objeto, QEvent* evento) override {
-        if (evento->type() != QEvent::KeyPress) return QObject::eventFilter(objeto, evento);
-        const int tecla = static_cast<QKeyEvent*>(evento)->key();
-        if (tecla != Qt::Key_Return && tecla != Qt::Key_Enter) return false;
-        ir_(Utf8(campo_.text()));
-        campo_.selectAll();
-        return true;
-    }
-
-  private:
-    QLineEdit& campo_;
-    std::function<void(const std::string&)> ir_;
-};
-
-} // namespace
 
 BarraBloque CrearBarraBloque(QBoxLayout& donde, const SelectorBloque& bloque, std::string_view etiqueta,
                              OrdenesBloque ordenes) {
@@ -55,7 +29,7 @@ BarraBloque CrearBarraBloque(QBoxLayout& donde, const SelectorBloque& bloque, st
         const QString texto = Q(etiqueta) + Q(bloque.TextoMaximo());
         barra.txtNumeroGrupo = CrearCampoNumero(
             Q("txtNumeroGrupo"), Q("Número de grupo; Intro va a él"), [](auto&) {}, [] {});
-        barra.txtNumeroGrupo->installEventFilter(new FiltroIntro(*barra.txtNumeroGrupo, std::move(ordenes.ir)));
+        InstalarIntro(*barra.txtNumeroGrupo, std::move(ordenes.ir));
         fila->addWidget(new QLabel(texto));
         fila->addWidget(barra.txtNumeroGrupo);
     }

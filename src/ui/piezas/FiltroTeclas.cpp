@@ -62,7 +62,31 @@ class FiltroTeclas final : public QObject {
     std::function<void()> alPulsar_;
 };
 
+// Takes Enter before the key filter of the field swallows it.
+class FiltroIntro final : public QObject {
+  public:
+    FiltroIntro(QLineEdit& campo, std::function<void(const std::string&)> alIntro)
+        : QObject(&campo), campo_(campo), alIntro_(std::move(alIntro)) {}
+
+    bool eventFilter(QObject* objeto, QEvent* evento) override {
+        if (evento->type() != QEvent::KeyPress) return QObject::eventFilter(objeto, evento);
+        const int tecla = static_cast<QKeyEvent*>(evento)->key();
+        if (tecla != Qt::Key_Return && tecla != Qt::Key_Enter) return false;
+        alIntro_(Utf8(campo_.text()));
+        campo_.selectAll();
+        return true;
+    }
+
+  private:
+    QLineEdit& campo_;
+    std::function<void(const std::string&)> alIntro_;
+};
+
 } // namespace
+
+void InstalarIntro(QLineEdit& campo, std::function<void(const std::string&)> alIntro) {
+    campo.installEventFilter(new FiltroIntro(campo, std::move(alIntro)));
+}
 
 void InstalarFiltroTeclas(QLineEdit& campo, int modo, std::function<void()> alPulsar) {
     campo.installEventFilter(new FiltroTeclas(campo, modo, std::move(alPulsar)));

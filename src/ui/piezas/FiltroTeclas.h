@@ -11,6 +11,10 @@
 void InstalarFiltroTeclas(
     QLineEdit& campo, int modo, std::function<void()> alPulsar = [] {});
 
+/// Gives Enter in the field to `alIntro`, with the text, which is then selected; to be installed after
+/// the key filter, which swallows it.
+void InstalarIntro(QLineEdit& campo, std::function<void(const std::string&)> alIntro);
+
 /// A number field: digits only, aligned to the right, as wide as six figures. `alCambiar` gets the
 /// text after each edit and `alPulsar` each key press.
 QLineEdit* CrearCampoNumero(const QString& nombre, const QString& ayuda,

@@ -93,7 +93,7 @@ void PintarPanelContadores(const PanelContadores& p, const QString& iniciales, c
     p.actividad->setVisible(calculando);
 }
 
-PanelEspera CrearPanelEspera(QWidget* padre) {
+PanelEspera CrearPanelEspera(QWidget* padre, std::string_view texto) {
     PanelEspera p;
     p.picVentanaEspera = new QFrame(padre);
     p.picVentanaEspera->setObjectName(Q("picVentanaEspera"));
@@ -102,14 +102,14 @@ PanelEspera CrearPanelEspera(QWidget* padre) {
     auto* caja = new QVBoxLayout(p.picVentanaEspera);
     caja->setContentsMargins(24, 20, 24, 20);
     caja->setSpacing(12);
-    auto* texto = new QLabel(Q("Guardando por favor espere ..."), p.picVentanaEspera);
-    texto->setFont(Letra(padre->font(), 1.2, true));
+    auto* rotulo = new QLabel(Q(texto), p.picVentanaEspera);
+    rotulo->setFont(Letra(padre->font(), 1.2, true));
     p.lblProgressBar = new QProgressBar(p.picVentanaEspera);
     p.lblProgressBar->setObjectName(Q("lblProgressBar"));
-    p.lblProgressBar->setAccessibleName(texto->text());
+    p.lblProgressBar->setAccessibleName(rotulo->text());
     p.lblProgressBar->setRange(0, AnchoBarra);
     p.lblProgressBar->setMinimumWidth(320);
-    caja->addWidget(texto);
+    caja->addWidget(rotulo);
     caja->addWidget(p.lblProgressBar);
     p.picVentanaEspera->hide();
     return p;

@@ -31,7 +31,7 @@ struct PanelEspera {
 };
 
 /// A panel over the middle of `padre`, hidden at first.
-PanelEspera CrearPanelEspera(QWidget* padre);
+PanelEspera CrearPanelEspera(QWidget* padre, std::string_view texto = "Guardando por favor espere ...");
 
 /// Shows or hides the panel and puts it in the middle of its parent.
 void PintarPanelEspera(const PanelEspera& panel, const Espera& espera);

@@ -53,11 +53,10 @@ void ApagarNoDisponibles(Sesion& sesion) {
 void PrepararTabla(EstadoTrabajo& trabajo, Entorno& entorno) {
     if (trabajo.cboTipoCombinacion == PronosticoDesdeArchivo) {
         TraducirImportadas(trabajo);
-        trabajo.ApuestasEnTabla = trabajo.NApuestasImportadas;
     } else {
         GenerarApuestas(trabajo, entorno, 6, 6);
-        trabajo.ApuestasEnTabla = static_cast<int32_t>(trabajo.TablaApuestas.Apuestas());
     }
+    trabajo.ApuestasEnTabla = static_cast<int32_t>(trabajo.TablaApuestas.Apuestas());
     PrepararEliminadas(trabajo);
 }
 

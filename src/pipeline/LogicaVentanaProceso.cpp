@@ -100,8 +100,8 @@ void LogicaVentanaProceso::ReconstruirTablas() {
     EstadoTrabajo& trabajo = sesion.trabajo;
     if (trabajo.cboTipoCombinacion == PronosticoDesdeArchivo) {
         trabajo.SinEliminadas = false;
-        trabajo.ApuestasEnTabla = trabajo.NApuestasImportadas;
         TraducirImportadas(trabajo);
+        trabajo.ApuestasEnTabla = static_cast<int32_t>(trabajo.TablaApuestas.Apuestas());
     } else if (trabajo.TablaApuestas.Filas() < 6 || trabajo.TablaApuestas.Apuestas() != trabajo.ApuestasEnTabla ||
                trabajo.TablaApuestas(6, 1) > trabajo.NumerosBase) {
         GenerarApuestas(trabajo, entorno, 6, 6);

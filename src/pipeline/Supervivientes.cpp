@@ -1,5 +1,6 @@
 #include "Supervivientes.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "Traslados.h"
@@ -15,7 +16,8 @@ void TraducirImportadas(EstadoTrabajo& trabajo) {
     PorPosicion posicion{};
     for (int p = 1; p <= trabajo.NumerosBase; ++p)
         posicion[trabajo.BaseNumeros[static_cast<size_t>(p)]] = static_cast<uint8_t>(p);
-    const int64_t n = trabajo.NApuestasImportadas;
+    // The count is shared with other readers of files and may exceed the bets that are here.
+    const int64_t n = std::min<int64_t>(trabajo.NApuestasImportadas, trabajo.ApuestasImportadas.Apuestas());
     trabajo.TablaApuestas.DimensionarSinLimpiar(7, n);
     for (int r = 1; r <= 6; ++r)
         Traducir(trabajo.ApuestasImportadas.Fila(r), n, posicion, trabajo.TablaApuestas.Fila(r));

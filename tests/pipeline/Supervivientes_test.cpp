@@ -78,8 +78,13 @@ TEST(Supervivientes, ImportadasComoPosiciones) {
         for (int r = 1; r <= 6; ++r)
             for (int i = 1; i <= 1000; ++i)
                 trabajo.ApuestasImportadas(r, i) = trabajo.BaseNumeros[trabajo.ApuestasImportadas(r, i)];
-        TraducirImportadas(trabajo);
-        EXPECT_EQ(Apuestas(trabajo.TablaApuestas, 7), posiciones);
+        // A file of draws, loaded meanwhile, leaves its own count.
+        for (const int32_t cuenta : {1000, 999, 0, 1001, 9361, 1000}) {
+            trabajo.NApuestasImportadas = cuenta;
+            TraducirImportadas(trabajo);
+            const std::vector<Apuesta> traducidas(posiciones.begin(), posiciones.begin() + std::min(cuenta, 1000));
+            EXPECT_EQ(Apuestas(trabajo.TablaApuestas, 7), traducidas);
+        }
     });
 }
 

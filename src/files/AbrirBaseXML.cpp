@@ -143,7 +143,10 @@ void MostrarAvisos(const Apertura& apertura, Entorno& entorno) {
 } // namespace
 
 bool AbrirFicheroBase(const std::string& ruta, Sesion& sesion, Entorno& entorno) {
+    // The draws are the game's, not the file's: whoever loaded them goes on with them.
+    Sorteos sorteos = std::move(sesion.condiciones.SorteosFiltro);
     ReiniciarSesion(sesion, entorno);
+    sesion.condiciones.SorteosFiltro = std::move(sorteos);
     sesion.trabajo.Titulo = std::string(PrefijoTitulo) + NombreSinCarpeta(ruta);
     Apertura apertura{sesion, {}, {}};
     bool leido = false;

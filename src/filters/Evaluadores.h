@@ -19,6 +19,7 @@ int32_t FiltrarPOSICIONES(Sesion&, Entorno&);
 int32_t FiltrarEXTERIORESINTERIORES(Sesion&, Entorno&);
 int32_t FiltrarSUPERIORESINFERIORES(Sesion&, Entorno&);
 int32_t FiltrarCOLINDANTES(Sesion&, Entorno&);
+int32_t FiltrarSORTEOSANTERIORES(Sesion&, Entorno&);
 int32_t FiltrarSUMASPORTRIOS(Sesion&, Entorno&);
 int32_t FiltrarVALORACIONES(Sesion&, Entorno&);
 int32_t FiltrarCOEFICIENTERENTABILIDAD(Sesion&, Entorno&);

@@ -32,7 +32,7 @@ const std::array<DescripcionFiltro, NFiltros> TablaFiltros{{
     {"COLINDANTES", "Colindantes           ", "Fil. Colindantes", "COLINDANTES: ", "Filtro COLINDANTES:", "", false,
      FiltrarCOLINDANTES},
     {"SORTEOSANTERIORES", "Sorteos Anteriores    ", "Fil. Sorteos Anteriores",
-     "SORTEOS ANTERIORES: ", "Filtro SORTEOS ANTERIORES:", "SORTEOS ANTERIORES", true, nullptr},
+     "SORTEOS ANTERIORES: ", "Filtro SORTEOS ANTERIORES:", "SORTEOS ANTERIORES", true, FiltrarSORTEOSANTERIORES},
     {"SUMASPORTRIOS", "Sumas por Trios       ", "Fil. Sumas por Trios",
      "SUMAS POR TRIOS: ", "Filtro SUMAS POR TRIOS:", "", true, FiltrarSUMASPORTRIOS},
     {"VALORACIONES", "Valoraciones          ", "Fil. Valoraciones",

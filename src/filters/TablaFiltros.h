@@ -20,7 +20,7 @@ struct DescripcionFiltro {
     std::string_view Resumen;  ///< heads its section in the summary
     std::string_view Bloques;  ///< name given to TextoBloquesUsados, empty for a filter without blocks
     bool ParaEurodreams;       ///< false for those that depend on the ticket of 49
-    Evaluador Filtrar;         ///< null: eliminates nothing
+    Evaluador Filtrar;
 };
 
 /// Row k of the list is entry k; this is also the order of evaluation.

@@ -7,8 +7,10 @@
 #include "CalcularSistema.h"
 #include "GuardarCombinacion.h"
 #include "ImportarCombinacion.h"
+#include "LogicaFiltroSORTEOSANTERIORES.h"
 #include "Ordenes.h"
 #include "Reduccion.h"
+#include "RespuestaGuardada.h"
 #include "TablaFiltros.h"
 #include "TextoApuestas.h"
 #include "modXML.h"
@@ -16,7 +18,7 @@
 namespace {
 
 struct ArgumentosCalcular {
-    std::string Base, Importar, Guardar, Texto, Condicionadas;
+    std::string Base, Importar, Sorteos, Guardar, Texto, Condicionadas;
     bool Reintegros = false;
     int32_t Ciclos = 0, Segundos = 0; ///< ends of a reduction, 0 where none was given
     bool Json = false;
@@ -69,12 +71,20 @@ bool GuardarFicheros(Lote& lote, const ArgumentosCalcular& argumentos) {
     return bien;
 }
 
+bool CargarSorteos(Lote& lote, const std::string& respuesta) {
+    ResponderConFichero(lote.entorno, respuesta);
+    LogicaFiltroSORTEOSANTERIORES dialogo{lote.sesion, lote.entorno};
+    dialogo.Abrir();
+    return dialogo.cmdCargar();
+}
+
 bool Calcular(Lote& lote, const ArgumentosCalcular& argumentos) {
     if (!AbrirFicheroBase(argumentos.Base, lote.sesion, lote.entorno)) return false;
     if (!argumentos.Importar.empty()) {
         lote.sesion.trabajo.chkReintegros = argumentos.Reintegros;
         if (!ImportarFichero(argumentos.Importar, lote.sesion, lote.entorno)) return false;
     }
+    if (!argumentos.Sorteos.empty() && !CargarSorteos(lote, argumentos.Sorteos)) return false;
     PrepararReduccion(lote, {argumentos.Ciclos, argumentos.Segundos});
     if (!CalcularSistema(lote.sesion, lote.entorno)) return false;
     const bool guardado = GuardarFicheros(lote, argumentos);
@@ -95,6 +105,8 @@ void DeclararCalcular(CLI::App& programa, Lote& lote) {
                 "Parte de las apuestas de este fichero; el fichero base sólo da condiciones y reducción");
     orden->add_flag("--reintegros", argumentos->Reintegros, "Carga también sus reintegros o sus sueños")
         ->needs(importar);
+    Fichero(orden, "--sorteos", argumentos->Sorteos,
+            "Carga de esta respuesta del servicio los sorteos de «Sorteos Anteriores»");
     Entero(orden, "--ciclos", argumentos->Ciclos, 1, "Ciclos de una reducción que no acaba por sí sola; si falta, 1");
     Entero(orden, "--segundos", argumentos->Segundos, 1,
            "Segundos de esa reducción, en lugar de los ciclos o con ellos");

@@ -10,7 +10,7 @@ int32_t Condicionar(Sesion& sesion, Entorno& entorno) {
     condiciones.EliminadasPorFiltro.fill(0);
     for (FilaFiltro& fila : condiciones.lstFiltros) fila.Eliminadas.reset();
     for (size_t k = 0; k < NFiltros; ++k) {
-        if (!condiciones.lstFiltros[k].Activo || TablaFiltros[k].Filtrar == nullptr) continue;
+        if (!condiciones.lstFiltros[k].Activo) continue;
         sesion.trabajo.Contador.Progreso = TablaFiltros[k].Progreso;
         condiciones.EliminadasPorFiltro[k] = TablaFiltros[k].Filtrar(sesion, entorno);
     }

@@ -25,6 +25,7 @@ TEST(AbrirBaseXML, EmpiezaDeCeroYSeTitulaConElNombre) {
     base.Marcar({1, 2, 3});
     base.sesion.condiciones.lstFiltros[3].Activo = true;
     base.sesion.condiciones.SUMAS.intervalos[0] = {21, 100};
+    base.sesion.condiciones.SorteosFiltro.resize(7); // stay: they are the game's
     base.sesion.trabajo.CombinacionGuardada = false;
     EXPECT_TRUE(base.Abrir(Documento("<Reduccion><Tipo valor='3'/></Reduccion>"), "peña.xml"));
     EXPECT_EQ(base.sesion.trabajo.Titulo, "TOMBOLERA 11.1 - Fichero : peña.xml");
@@ -34,6 +35,7 @@ TEST(AbrirBaseXML, EmpiezaDeCeroYSeTitulaConElNombre) {
     EXPECT_FALSE(base.sesion.condiciones.lstFiltros[3].Activo);
     EXPECT_EQ(base.sesion.condiciones.lstFiltros[FilaReduccion].NumeroActivos, "al 3");
     EXPECT_TRUE(base.sesion.condiciones.lstFiltros[FilaReduccion].Activo);
+    EXPECT_EQ(base.sesion.condiciones.SorteosFiltro.size(), 7u);
 }
 
 TEST(AbrirBaseXML, PideElFicheroYNadaPasaSiNoSeElige) {

@@ -109,6 +109,28 @@ TEST_F(Calcular, LaPreguntaSeContestaNoSalvoConSi) {
     }
 }
 
+// A maximum of 0 becomes the number of draws loaded.
+TEST_F(Calcular, CargaLosSorteosDeUnaRespuestaGuardada) {
+    Fila(kSORTEOSANTERIORES).Activo = true;
+    BloqueSorteos& grupo = guion.sesion.condiciones.SORTEOSANTERIORES.grupo[7];
+    grupo = {{2000, 1}, {2000, 9}, 0, 1, 0, {0, 0, 0, 0, 0, 0, 1}};
+    EscribirTodo(carpeta.Ruta("respuesta.xml"),
+                 "<r><Primitiva><Combinaciones>"
+                 "<Combinacion numeros='02,05,09,14,23,31,1,0' anio='2000' sorteo='1' dia='J'/>"
+                 "<Combinacion numeros='47,38,31,23,14,9' anio='2000' sorteo='9' dia='S'/>"
+                 "<Combinacion numeros='2,5,9,14,23,38' anio='2001' sorteo='1' dia='J'/>"
+                 "</Combinaciones></Primitiva></r>");
+    const Resultado r = Ejecutar({"--si", "calcular", "base.xml", "--sorteos", "respuesta.xml", "--texto", "f.txt"});
+    EXPECT_EQ(r.Estado, 0) << r.Errores;
+    EXPECT_EQ(Escrito("f.txt"), "020509142331\r\n091423313847\r\n");
+    EXPECT_NE(r.Salida.find("Eliminadas SORTEOSANTERIORES: 26\n"), std::string::npos) << r.Salida;
+
+    const Resultado sin = Ejecutar({"--si", "calcular", "base.xml", "--sorteos", "no_esta.xml"});
+    EXPECT_EQ(sin.Estado, 1);
+    EXPECT_TRUE(sin.Errores.starts_with("ERROR AL ABRIR EL FICHERO DE SORTEOS (")) << sin.Errores;
+    EXPECT_EQ(sin.Salida, "");
+}
+
 TEST_F(Calcular, LoQueNoSePuedeEscribirNoImpideLoDemas) {
     std::filesystem::create_directory(carpeta.Ruta("ocupado.txt"));
     const Resultado r = Ejecutar({"calcular", "base.xml", "--guardar", "no/hay/carpeta.TOM", "--texto", "ocupado.txt",

@@ -90,6 +90,7 @@ const std::vector<DialogoProbado>& Dialogos() {
         DeFila("frmFiltroEXTERIORES", kEXTERIORESINTERIORES),
         DeFila("frmFiltroSUPERIORES", kSUPERIORESINFERIORES),
         DeFila("frmFiltroCOLINDANTES", kCOLINDANTES),
+        DeFila("frmFiltroSORTEOSANTERIORES", kSORTEOSANTERIORES, true),
         DeFila("frmFiltroSUMASPORTRIOS", kSUMASPORTRIOS),
         {"frmFiltroVALORACIONES", Valoraciones, true, true},
         ConNumeros("frmFiltroCR", kCOEFICIENTERENTABILIDAD, true),

@@ -19,12 +19,16 @@ std::string LogicaMarco::lblActivar() const {
     return std::string(k == FilaReduccion ? "Reducción " : "Condición ") + (Activo() ? "activada" : "desactivada");
 }
 
-void CambiarCampo(LogicaMarco& marco, std::string& campo, const std::string& texto) {
+std::string TextoDeCampo(const std::string& texto) {
     constexpr int soloDigitos = 1;
     std::string aceptado;
     for (const char c : texto)
         if (FiltroTecla(aceptado, static_cast<unsigned char>(c), soloDigitos).Tecla >= ' ') aceptado += c;
-    campo = aceptado;
+    return aceptado;
+}
+
+void CambiarCampo(LogicaMarco& marco, std::string& campo, const std::string& texto) {
+    campo = TextoDeCampo(texto);
     marco.ActivarFiltro();
 }
 

@@ -20,8 +20,10 @@ struct LogicaMarco {
     std::string lblActivar() const;
 };
 
-/// Puts what was typed or pasted in a number field, without the keys that the field does not take,
-/// and turns the filter on.
+/// What was typed or pasted in a number field, without the keys that the field does not take.
+std::string TextoDeCampo(const std::string& texto);
+
+/// Puts that in the field and turns the filter on.
 void CambiarCampo(LogicaMarco& marco, std::string& campo, const std::string& texto);
 
 /// Whether nothing but blanks stands in the field.

@@ -10,6 +10,7 @@
 #include "frmFiltroGRUPOSENTRELIMITES.h"
 #include "frmFiltroGRURELACIONADOS.h"
 #include "frmFiltroPOSICIONES.h"
+#include "frmFiltroSORTEOSANTERIORES.h"
 #include "frmFiltroSUMAS.h"
 #include "frmFiltroSUMASPORTRIOS.h"
 #include "frmFiltroSencillo.h"
@@ -48,6 +49,7 @@ constexpr std::array<Fabrica, NFilas> Fabricas = [] {
     f[kEXTERIORESINTERIORES] = CrearSencillo<kEXTERIORESINTERIORES>;
     f[kSUPERIORESINFERIORES] = CrearSencillo<kSUPERIORESINFERIORES>;
     f[kCOLINDANTES] = CrearSencillo<kCOLINDANTES>;
+    f[kSORTEOSANTERIORES] = Crear<frmFiltroSORTEOSANTERIORES>;
     f[kSUMASPORTRIOS] = Crear<frmFiltroSUMASPORTRIOS>;
     f[kVALORACIONES] = Crear<frmFiltroVALORACIONES>;
     f[kCOEFICIENTERENTABILIDAD] = Crear<frmFiltroCR>;

@@ -1,0 +1,209 @@
+#include "SorteosAnteriores.h"
+
+#include <bit>
+#include <cstring>
+#include <limits>
+
+#include "Escalares.h"
+#include "SumasPorSubconjunto.h"
+#include "TablasCSN.h"
+#include "modCSN.h"
+#include "modGeneral.h"
+
+namespace {
+
+constexpr size_t SorteosPorTurno = 500;
+
+// Draws as sets of positions. The hits of a draw with repeated numbers are those in the set of its
+// numbers, plus those in the set of what comes a second time, and so on.
+struct SorteosComoConjuntos {
+    std::vector<uint64_t> normales;
+    std::vector<std::array<uint64_t, 6>> repetidos;
+
+    explicit SorteosComoConjuntos(const std::vector<SorteoEnBase>& sorteos) {
+        for (const SorteoEnBase& sorteo : sorteos) {
+            std::array<uint64_t, 6> capas{};
+            for (const uint8_t p : sorteo) {
+                if (p == 0) continue;
+                const uint64_t bit = uint64_t{1} << p;
+                size_t capa = 0;
+                while ((capas[capa] & bit) != 0) ++capa;
+                capas[capa] |= bit;
+            }
+            if (capas[1] == 0)
+                normales.push_back(capas[0]);
+            else
+                repetidos.push_back(capas);
+        }
+    }
+};
+
+uint64_t ConjuntoDe(const Tramo& tramo, int64_t i) {
+    uint64_t conjunto = 0;
+    for (const uint8_t* fila : tramo.fila) conjunto |= uint64_t{1} << (fila[i] & 63u);
+    return conjunto;
+}
+
+class Comparacion {
+  public:
+    Comparacion(const PreguntaSorteos& pregunta, Entorno& entorno)
+        : sorteos_(pregunta.Sorteos), pregunta_(pregunta), entorno_(entorno) {
+        for (size_t h = 0; h < pregunta.Acertar.size(); ++h) permitidos_ |= unsigned{pregunta.Acertar[h] == 1} << h;
+    }
+
+    bool Pasa(uint64_t apuesta) const {
+        const auto normal = [&](uint64_t sorteo) { return std::popcount(apuesta & sorteo); };
+        const auto repetido = [&](const std::array<uint64_t, 6>& capas) {
+            int aciertos = 0;
+            for (const uint64_t capa : capas) aciertos += std::popcount(apuesta & capa);
+            return aciertos;
+        };
+        int32_t cuenta = 0;
+        Contar(sorteos_.normales, normal, cuenta);
+        Contar(sorteos_.repetidos, repetido, cuenta);
+        return cuenta >= pregunta_.Minimo && cuenta <= pregunta_.Maximo;
+    }
+
+  private:
+    // Stops, at the end of a block, when the outcome is known.
+    template <class Sorteos, class Aciertos>
+    void Contar(const Sorteos& sorteos, Aciertos aciertos, int32_t& cuenta) const {
+        for (size_t t = 0; t < sorteos.size() && cuenta <= pregunta_.Maximo; t += SorteosPorTurno) {
+            const size_t fin = std::min(t + SorteosPorTurno, sorteos.size());
+            for (size_t i = t; i < fin; ++i) cuenta += static_cast<int32_t>(permitidos_ >> aciertos(sorteos[i]) & 1u);
+            if (fin == t + SorteosPorTurno) entorno_.CederTurno();
+        }
+    }
+
+    SorteosComoConjuntos sorteos_;
+    const PreguntaSorteos& pregunta_;
+    Entorno& entorno_;
+    unsigned permitidos_ = 0; // bit h: h hits count
+};
+
+// The answers of consecutive bets in pieces of any length.
+template <class Suma>
+class Respuestas {
+  public:
+    Respuestas(size_t n, const PreguntaSorteos& pregunta, Entorno& entorno)
+        : sumas_(n, pregunta, entorno), recorrido_(sumas_, static_cast<Suma>(pregunta.Maximo - pregunta.Minimo)) {}
+
+    /// The next `n` answers, 1 to pass; behind them stand at least `HolguraSumas` readable bytes.
+    const uint8_t* Tomar(size_t n) {
+        if (hasta_ - desde_ < n) {
+            bytes_.resize(std::max(bytes_.size(), n + Distancia(46, 3) + 2 * HolguraSumas));
+            std::memmove(bytes_.data(), bytes_.data() + desde_, hasta_ - desde_);
+            hasta_ -= desde_;
+            desde_ = 0;
+            while (hasta_ < n) {
+                const size_t nuevas = recorrido_.Siguiente(bytes_.data() + hasta_);
+                if (nuevas == 0) break;
+                hasta_ += nuevas;
+            }
+        }
+        const uint8_t* tomadas = bytes_.data() + desde_;
+        desde_ += n;
+        return tomadas;
+    }
+
+  private:
+    SumasPorSubconjunto<Suma> sumas_;
+    RecorridoDeApuestas<Suma> recorrido_;
+    std::vector<uint8_t> bytes_;
+    size_t desde_ = 0, hasta_ = 0;
+};
+
+// Calls `usar` with the answers over `n` positions; sums of 16 bits do for all but huge histories.
+template <class Usar>
+auto ConRespuestas(size_t n, const PreguntaSorteos& pregunta, Entorno& entorno, Usar usar) {
+    if (pregunta.Sorteos.size() <= std::numeric_limits<uint16_t>::max()) {
+        Respuestas<uint16_t> respuestas(n, pregunta, entorno);
+        return usar(respuestas);
+    }
+    Respuestas<uint32_t> respuestas(n, pregunta, entorno);
+    return usar(respuestas);
+}
+
+// One bit for each bet of the ticket, by its sequence number less 1.
+class MapaRespuestas {
+  public:
+    template <class Suma>
+    explicit MapaRespuestas(Respuestas<Suma>& respuestas) : bits_(Bytes) {
+        constexpr size_t porVuelta = 512;
+        for (size_t i = 0; i < Bytes; i += porVuelta) {
+            const size_t cuantos = std::min(porVuelta, Bytes - i);
+            const uint8_t* pasa = respuestas.Tomar(8 * cuantos);
+            for (size_t j = 0; j < cuantos; ++j) bits_[i + j] = Juntar(pasa + 8 * j);
+        }
+    }
+
+    uint8_t Pasa(int32_t csn) const {
+        const auto lugar = static_cast<uint32_t>(csn) - 1;
+        if (lugar >= uint32_t{ApuestasMaximas}) return 0; // of no bet
+        return static_cast<uint8_t>(bits_[lugar / 8] >> lugar % 8 & 1);
+    }
+
+  private:
+    static_assert(ApuestasMaximas % 8 == 0);
+    static constexpr size_t Bytes = ApuestasMaximas / 8;
+
+    // Eight bytes of 0 or 1, the first as the lowest bit.
+    static uint8_t Juntar(const uint8_t* pasa) {
+        unsigned byte = 0;
+        for (unsigned b = 0; b < 8; ++b) byte |= unsigned{pasa[b]} << b;
+        return static_cast<uint8_t>(byte);
+    }
+
+    std::vector<uint8_t> bits_;
+};
+
+int64_t LugarDe(const EstadoTrabajo& trabajo, const Tramo& tramo) {
+    return tramo.fila[0] - trabajo.TablaApuestas.Fila(1) + 1;
+}
+
+} // namespace
+
+// The base mode and the number of bets tell; the bets looked at guard against a table that was filled
+// in another way.
+bool EsExpansionEntera(const EstadoTrabajo& trabajo) {
+    const int16_t n = trabajo.NumerosBase;
+    const int64_t total = trabajo.ApuestasEnTabla;
+    if (trabajo.cboTipoCombinacion == PronosticoDesdeArchivo || total == 0 || total != Combinaciones(n, 6))
+        return false;
+    const int64_t paso = std::max<int64_t>(1, total / 64);
+    std::array<uint8_t, 6> esperada{};
+    for (int64_t i = total; i >= 1; i -= paso) {
+        CSNaCombinacion(static_cast<int32_t>(i), 6, n, esperada.data());
+        for (int r = 0; r < 6; ++r)
+            if (trabajo.TablaApuestas(r + 1, i) != esperada[static_cast<size_t>(r)]) return false;
+    }
+    return true;
+}
+
+int32_t FiltrarComparando(EstadoTrabajo& trabajo, Entorno& entorno, const PreguntaSorteos& pregunta) {
+    const Comparacion comparacion(pregunta, entorno);
+    return Barrer(trabajo, entorno, [&](const Tramo& tramo) {
+        return RecorrerUnaAUna(tramo, [&](int64_t i) { return comparacion.Pasa(ConjuntoDe(tramo, i)); });
+    });
+}
+
+int32_t FiltrarExpansion(EstadoTrabajo& trabajo, Entorno& entorno, const PreguntaSorteos& pregunta) {
+    return ConRespuestas(static_cast<size_t>(trabajo.NumerosBase), pregunta, entorno, [&](auto& respuestas) {
+        return Barrer(trabajo, entorno, [&](const Tramo& tramo) {
+            return NucleoVeredictos(tramo, respuestas.Tomar(static_cast<size_t>(tramo.n)));
+        });
+    });
+}
+
+// The positions of the base stand in for the numbers of the ticket.
+int32_t FiltrarConsultando(EstadoTrabajo& trabajo, Entorno& entorno, const PreguntaSorteos& pregunta) {
+    const MapaRespuestas mapa = ConRespuestas(NumeroMaximoBoleto, pregunta, entorno,
+                                              [](auto& respuestas) { return MapaRespuestas(respuestas); });
+    std::vector<int32_t> csn(static_cast<size_t>(ApuestasPorTurno) + 64);
+    std::vector<uint8_t> pasa(csn.size() + HolguraSumas);
+    return Barrer(trabajo, entorno, [&](const Tramo& tramo) {
+        CombinacionesaCSN(trabajo.TablaApuestas, LugarDe(trabajo, tramo), tramo.n, csn.data());
+        for (size_t i = 0; i < static_cast<size_t>(tramo.n); ++i) pasa[i] = mapa.Pasa(csn[i]);
+        return NucleoVeredictos(tramo, pasa.data());
+    });
+}

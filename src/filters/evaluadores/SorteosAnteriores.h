@@ -1,0 +1,32 @@
+// In how many draws a bet has the hits asked for: one question and three ways to its answer. All give
+// the same; which is the quickest depends on the number of bets and draws, and on the bets' order.
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "Entorno.h"
+#include "EstadoTrabajo.h"
+#include "Registros.h"
+
+/// The six numbers of a draw as positions in the base, 0 for a number that it lacks. A number that is
+/// there twice counts as two hits.
+using SorteoEnBase = std::array<uint8_t, 6>;
+
+/// A bet passes when the draws in which it has hits that `Acertar` allows are `Minimo` to `Maximo`.
+struct PreguntaSorteos {
+    std::vector<SorteoEnBase> Sorteos;
+    TablaAciertos Acertar{};        ///< 1 or 0
+    int32_t Minimo = 0, Maximo = 0; ///< 0 <= Minimo <= Maximo <= number of draws
+};
+
+/// Whether the table holds all bets of the base in lexicographic order, as the expansion leaves it.
+bool EsExpansionEntera(const EstadoTrabajo& trabajo);
+
+/// Each marks the live bets that do not pass and returns how many it marked.
+/// Compares every bet with every draw.
+int32_t FiltrarComparando(EstadoTrabajo& trabajo, Entorno& entorno, const PreguntaSorteos& pregunta);
+/// For a whole expansion: its bets' answers come one after the other, whatever the number of draws.
+int32_t FiltrarExpansion(EstadoTrabajo& trabajo, Entorno& entorno, const PreguntaSorteos& pregunta);
+/// First the answers of all bets of the ticket, then the table's bets look theirs up.
+int32_t FiltrarConsultando(EstadoTrabajo& trabajo, Entorno& entorno, const PreguntaSorteos& pregunta);

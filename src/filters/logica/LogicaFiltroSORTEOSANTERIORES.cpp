@@ -18,6 +18,13 @@ bool Cabe(const std::string& campo) {
     return LeerEntero(campo, valor);
 }
 
+// A draw beyond what a group can name in 16 bits with a sign; empty if there is none.
+std::string FalloDeSorteos(const Sorteos& sorteos) {
+    const auto hay =
+        std::find_if(sorteos.begin(), sorteos.end(), [](const Sorteo& s) { return s.sorteo > MaximoIntervalo; });
+    return hay == sorteos.end() ? "" : "el valor '" + std::to_string(hay->sorteo) + "' de 'sorteo' no cabe en su campo";
+}
+
 } // namespace
 
 void LogicaFiltroSORTEOSANTERIORES::Abrir() {
@@ -91,10 +98,12 @@ bool LogicaFiltroSORTEOSANTERIORES::Cargar() {
         return FalloDeCarga(respuesta.Fallo());
     if (!respuesta.Legible()) return Fallo(entorno, std::string(FalloAlAbrir) + " - " + respuesta.Motivo());
     sorteos.clear();
-    if (!respuesta.LeerCombinaciones(juego, sorteos)) {
+    const bool leidos = respuesta.LeerCombinaciones(juego, sorteos);
+    const std::string fallo = leidos ? FalloDeSorteos(sorteos) : respuesta.Fallo();
+    if (!fallo.empty()) {
         sorteos.clear();
         Recontar();
-        return FalloDeCarga(respuesta.Fallo());
+        return FalloDeCarga(fallo);
     }
     MostrarCargados();
     PonerMaximos();

@@ -97,6 +97,8 @@ TEST_F(SorteosAnterioresLogica, UnaRespuestaMalaSeDiceYNoDejaSorteosAMedias) {
         {"no hay servicio", " - ", 700},
         {RespuestaCon("<combinacion numeros='1,2' anio='2000' sorteo='70000' dia='J'/>"),
          " (el valor '70000' de 'sorteo' no cabe en su campo)", 0},
+        {RespuestaCon("<combinacion numeros='1,2' anio='2000' sorteo='32768' dia='J'/>"),
+         " (el valor '32768' de 'sorteo' no cabe en su campo)", 0},
         {RespuestaCon("<combinacion numeros='1,2' anio='99999' sorteo='7' dia='J'/>"), " (", 0},
         {RespuestaCon("<combinacion anio='2000' sorteo='7' dia='J'/>"), " (", 0},
         {RespuestaCon("<combinacion numeros='1,2,3,4,5,6,7,8,9' anio='2000' sorteo='7' dia='J'/>"), " (", 0},

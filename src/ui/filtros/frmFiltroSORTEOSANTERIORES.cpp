@@ -9,12 +9,14 @@
 
 namespace {
 
-QLabel* CrearRotulo(const char* nombre) {
+// A value that changes while the dialog is open, with room for the longest: `muestra`.
+QLabel* CrearRotulo(const char* nombre, const char* muestra) {
     auto* rotulo = new QLabel;
     rotulo->setObjectName(Q(nombre));
     QFont letra = rotulo->font();
     letra.setBold(true);
     rotulo->setFont(letra);
+    rotulo->setMinimumWidth(QFontMetrics(letra).horizontalAdvance(Q(muestra)));
     return rotulo;
 }
 
@@ -63,12 +65,12 @@ frmFiltroSORTEOSANTERIORES::frmFiltroSORTEOSANTERIORES(Sesion& sesion, Entorno& 
 
 void frmFiltroSORTEOSANTERIORES::CrearSorteos() {
     QGridLayout* rejilla = CrearCaja(*marco.contenido, "SORTEOS DEL JUEGO");
-    lblTitTipo = CrearRotulo("lblTitTipo");
-    lblSorteosCargados = CrearRotulo("lblSorteosCargados");
-    lblSorteoDESDE = CrearRotulo("lblSorteoDESDE");
-    lblTemporadaDESDE = CrearRotulo("lblTemporadaDESDE");
-    lblSorteoHASTA = CrearRotulo("lblSorteoHASTA");
-    lblTemporadaHASTA = CrearRotulo("lblTemporadaHASTA");
+    lblTitTipo = CrearRotulo("lblTitTipo", "EURODREAMS");
+    lblSorteosCargados = CrearRotulo("lblSorteosCargados", "0000000");
+    lblSorteoDESDE = CrearRotulo("lblSorteoDESDE", "000");
+    lblTemporadaDESDE = CrearRotulo("lblTemporadaDESDE", "0000");
+    lblSorteoHASTA = CrearRotulo("lblSorteoHASTA", "000");
+    lblTemporadaHASTA = CrearRotulo("lblTemporadaHASTA", "0000");
     cmdCargar = CrearBoton("cmdCargar", "Cargar sorteos", "Cargar todos los sorteos del juego desde el servicio",
                            [this] { Cargar(); });
     cmdCargar->setMinimumWidth(cmdCargar->fontMetrics().horizontalAdvance(Q("Cargando sorteos ...")) + 32);
@@ -128,7 +130,7 @@ void frmFiltroSORTEOSANTERIORES::CrearTramo() {
     QStringList dias;
     for (const std::string_view dia : Logica::Dias) dias << Q(dia);
     cboDia = CrearLista("cboDia", "Día de la semana de los sorteos", &Logica::cboDia, 0, dias);
-    lblSorteosConsultados = CrearRotulo("lblSorteosConsultados");
+    lblSorteosConsultados = CrearRotulo("lblSorteosConsultados", "0000000");
     PonerEnFila(*rejilla, 0,
                 {new QLabel(Q("Desde el sorteo")), cboSorteoINI, new QLabel(Q("de")), cboAnioINI,
                  new QLabel(Q("hasta el sorteo")), cboSorteoFIN, new QLabel(Q("de")), cboAnioFIN});

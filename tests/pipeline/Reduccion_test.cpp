@@ -119,7 +119,7 @@ void Comparar(ReduccionLiteral caso, bool importada = false) {
 
 // Sizes that the literal steps end in a moment.
 int MayorBase(int tipo) {
-    return tipo == 1 ? 14 : tipo == 2 ? 12 : 13;
+    return tipo == 1 ? 14 : tipo == 2 ? 12 : 20;
 }
 
 } // namespace
@@ -140,6 +140,18 @@ TEST(Reduccion, BaseCompletaComoLosPasosLiterales) {
             caso.NApuestas = Tirar(dado, 1, 12);
             Comparar(caso);
         }
+}
+
+// The sweep's pruning goes wrong first where many bets share their first positions.
+TEST(Reduccion, BaseCompletaPorBarridoDesde23Numeros) {
+    for (int tipo = 2; tipo <= 4; ++tipo) {
+        ReduccionLiteral caso;
+        caso.n = 23;
+        caso.apuestas = Expandir(23);
+        caso.SinEliminadas = true;
+        caso.TipoReduccion = tipo;
+        Comparar(caso);
+    }
 }
 
 TEST(Reduccion, SistemasFiltradosComoLosPasosLiterales) {

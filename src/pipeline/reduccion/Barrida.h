@@ -94,7 +94,8 @@ class Barrida {
                 if (tomada_ && D >= T) return;
                 if (tomada_ && D == T - 1) {
                     tomada_ = false;
-                    libres &= ~completan_[r_.Lugar(prefijo_.data())];
+                    prohibidas |= completan_[r_.Lugar(prefijo_.data())]; // the bet taken covers more of this prefix
+                    libres &= ~prohibidas;
                 }
             }
         }

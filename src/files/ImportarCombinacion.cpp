@@ -31,6 +31,7 @@ void Empezar(const std::string& ruta, Sesion& sesion) {
     trabajo.CombinacionGuardada = false;
     trabajo.txtFicheroASCII = ruta;
     trabajo.ApuestasImportadas.Vaciar();
+    trabajo.ApuestasCondicionadas.Vaciar();
     trabajo.NApuestasImportadas = 0;
     LimpiarMarcas(trabajo);
     LeerBase(trabajo);

@@ -15,3 +15,5 @@ void DeclararEliminadas(CLI::App& programa, Lote& lote);
 void DeclararAnalisis(CLI::App& programa, Lote& lote);
 void DeclararGenerar(CLI::App& programa, Lote& lote);
 void DeclararSistemaPropio(CLI::App& programa, Lote& lote);
+void DeclararGarantias(CLI::App& programa, Lote& lote);
+void DeclararMiniGarantias(CLI::App& programa, Lote& lote);

@@ -42,6 +42,8 @@ int main(int argc, char** argv) {
     DeclararAnalisis(programa, lote);
     DeclararGenerar(programa, lote);
     DeclararSistemaPropio(programa, lote);
+    DeclararGarantias(programa, lote);
+    DeclararMiniGarantias(programa, lote);
     try {
         programa.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {

@@ -44,6 +44,15 @@ void LogicaVentanaProceso::Volver() {
     if (!Corriendo) Cerrada = true;
 }
 
+bool LogicaVentanaProceso::VerGarantias() {
+    if (Corriendo) return false;
+    if (lblApuestasCondicionadasVP == lblApuestasVP)
+        return Fallo(
+            entorno,
+            "AVISO: No se pueden calcular las garantías, el sistema reducido es igual al sistema condicionado");
+    return true;
+}
+
 void LogicaVentanaProceso::VerPorcentajes() {
     std::string ruta;
     if (EscribirInformePorcentajes(*this, ruta)) entorno.VerInforme(ruta);
@@ -51,7 +60,7 @@ void LogicaVentanaProceso::VerPorcentajes() {
 
 void LogicaVentanaProceso::Habilitar(bool corriendo) {
     Corriendo = imgDetener = corriendo;
-    imgCalcular = imgVolver = imgCalculoDefinitivo = imgVerPorcentajes = !corriendo;
+    imgCalcular = imgVolver = imgCalculoDefinitivo = imgVerPorcentajes = imgGarantias = !corriendo;
 }
 
 // However the run ends, the best system found so far stands and the window is idle again.

@@ -23,8 +23,7 @@ struct LogicaVentanaProceso {
     std::array<std::string, NumeroMaximoBoleto + 1> lblN;          ///< by number; empty above `NumeroMaximo`
     std::array<bool, NumeroMaximoBoleto + 1> lblNConApuestas{};    ///< coloured: some bet holds the number
     bool imgDetener = false, imgCalcular = true, imgVolver = true; ///< what is enabled
-    bool imgCalculoDefinitivo = true, imgVerPorcentajes = true;
-    bool imgGarantias = false; ///< until there is a tool of guarantees
+    bool imgCalculoDefinitivo = true, imgVerPorcentajes = true, imgGarantias = true;
     bool Corriendo = false;
     bool Cerrada = false; ///< the window is asked to close
 
@@ -66,6 +65,9 @@ struct LogicaVentanaProceso {
 
     /// The frame's own close button: always refused, because only the two buttons lead out.
     bool PuedeCerrar() const { return Cerrada; }
+
+    /// `imgGarantias`: whether the window of guarantees is to open over this one; a box tells why not.
+    bool VerGarantias();
 
     /// Writes the grid to the analysis report and shows it.
     void VerPorcentajes();

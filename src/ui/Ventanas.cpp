@@ -4,6 +4,7 @@
 #include "frmAcercaDe.h"
 #include "frmAnalisis.h"
 #include "frmEstadisticas.h"
+#include "frmGarantiasTOTAL.h"
 
 namespace {
 
@@ -47,6 +48,11 @@ bool AbrirVentana(Orden orden, Sesion& sesion, Entorno& entorno, QWidget* padre)
     case Orden::AcercaDe: {
         frmAcercaDe acercaDe(padre);
         MostrarModal(acercaDe);
+        return true;
+    }
+    case Orden::Garantias: {
+        frmGarantiasTOTAL garantias(sesion, entorno, padre);
+        MostrarModal(garantias, [&garantias] { garantias.Pintar(); });
         return true;
     }
     default:

@@ -1,14 +1,18 @@
 #include "dialogos.h"
 
+#include <QAbstractButton>
+
 #include "CalcularSistema.h"
 #include "DialogosFiltro.h"
 #include "HistoriaInventada.h"
 #include "TablaFiltros.h"
+#include "Ventanas.h"
 #include "frmAcercaDe.h"
 #include "frmAciertos.h"
 #include "frmAlazar.h"
 #include "frmAnalisis.h"
 #include "frmEstadisticas.h"
+#include "frmGarantiasTOTAL.h"
 #include "frmVentanaProceso.h"
 
 namespace {
@@ -66,6 +70,19 @@ std::unique_ptr<QDialog> Estadisticas(Guion& g) {
     return ventana;
 }
 
+// A reduction "al 4" of fourteen numbers, measured.
+std::unique_ptr<QDialog> Garantias(Guion& g) {
+    for (FilaFiltro& fila : g.sesion.condiciones.lstFiltros) fila.Activo = false;
+    g.MarcarHasta(14);
+    g.MarcarDigitos({1});
+    g.sesion.trabajo.Reduccion.TipoReduccion = 2;
+    g.sesion.condiciones.lstFiltros[FilaReduccion].Activo = true;
+    CalcularSistema(g.sesion, g.entorno);
+    auto ventana = std::make_unique<frmGarantiasTOTAL>(g.sesion, g.entorno, nullptr);
+    Hijo<QAbstractButton>(*ventana, "imgCalcularGarantias")->click();
+    return ventana;
+}
+
 // A base, without which no number takes a mark.
 std::unique_ptr<QDialog> Valoraciones(Guion& g) {
     g.MarcarHasta(14);
@@ -99,6 +116,7 @@ const std::vector<DialogoProbado>& Dialogos() {
         {"frmVentanaProceso", VentanaProceso, true},
         {"frmAnalisis", Analisis},
         {"frmEstadisticas", Estadisticas, false, true},
+        {"frmGarantiasTOTAL", Garantias},
         {"frmAciertos", Aciertos},
         {"frmAlazar", [](Guion& g) { return std::make_unique<frmAlazar>(g.sesion.trabajo, nullptr); }},
         {"frmAcercaDe", [](Guion&) { return std::make_unique<frmAcercaDe>(nullptr); }},

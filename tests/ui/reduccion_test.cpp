@@ -5,6 +5,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QTreeWidget>
 #include <QtTest/QTest>
@@ -125,7 +126,7 @@ struct Calculo : Guion {
 
 const Textos BotonesProceso{"imgCalcular",  "imgDetener", "imgVerPorcentajes",
                             "imgGarantias", "imgVolver",  "imgCalculoDefinitivo"};
-const Textos EnReposo{"imgCalcular", "imgVerPorcentajes", "imgVolver", "imgCalculoDefinitivo"};
+const Textos EnReposo{"imgCalcular", "imgVerPorcentajes", "imgGarantias", "imgVolver", "imgCalculoDefinitivo"};
 
 bool EnMarcha(QDialog& d) {
     return Habilitado(d, "imgDetener") && Texto(d, "lblApuestasVP") != "0" && Texto(d, "lblCiclos") != "0";
@@ -267,4 +268,50 @@ TEST(frmVentanaProceso, VolverDejaElSistemaSinGrabar) {
     EXPECT_GT(c.sesion.trabajo.Contador.Reducidas, 0);
     EXPECT_LT(c.sesion.trabajo.Contador.Reducidas, 924);
     EXPECT_TRUE(c.Peticiones.empty());
+}
+
+// The window of guarantees opens over the process window, and on the way back nothing runs again.
+TEST(frmVentanaProceso, LasGarantiasNoVuelvenACalcular) {
+    Calculo c;
+    c.sesion.trabajo.Reduccion.TipoReduccion = 2;
+    c.sesion.trabajo.Reduccion.ActivarCiclos = 0;
+    c.sesion.condiciones.lstFiltros[FilaReduccion].Activo = true;
+    const auto abierta = [](QDialog& d) { return d.objectName() == Q("frmGarantiasTOTAL") && d.isVisible(); };
+    Pasos pasos;
+    pasos.Dar(Parada, [](QDialog& d) { Pulsar(d, "imgGarantias"); });
+    pasos.Dar(abierta, [](QDialog& d) {
+        Pulsar(d, "optTipoGarantias_2");
+        Pulsar(d, "imgCalcularGarantias");
+        EXPECT_TRUE(Hijo<QPlainTextEdit>(d, "txtResumen")->toPlainText().contains(Q("100.000% 4 si 6 ")));
+        Pulsar(d, "imgVolver");
+    });
+    pasos.Dar(Parada, [](QDialog& d) {
+        EXPECT_EQ(Utf8(d.objectName()), "frmVentanaProceso");
+        EXPECT_EQ(Texto(d, "lblCiclos"), "1");
+        Pulsar(d, "imgCalcular"); // the expansion that the measure has freed comes back
+    });
+    pasos.Dar(Parada, [](QDialog& d) { Pulsar(d, "imgVolver"); });
+    pasos.Empezar();
+    Pulsar(c.ventana, "lblMenu_4");
+    EXPECT_EQ(pasos.Dados(), 4u);
+    EXPECT_EQ(c.Cajas, Textos{});
+}
+
+TEST(frmVentanaProceso, UnSistemaSinReducirNoTieneGarantias) {
+    Calculo c;
+    c.sesion.trabajo.Reduccion.ActivarNumeroApuestas = 1;
+    c.sesion.trabajo.Reduccion.NApuestasExactas = 924;
+    c.sesion.trabajo.Reduccion.ActivarCiclos = 0;
+    c.sesion.condiciones.lstFiltros[FilaReduccion].Activo = true;
+    Pasos pasos;
+    pasos.Dar(Parada, [&](QDialog& d) {
+        EXPECT_EQ(Texto(d, "lblApuestasVP"), "924");
+        Pulsar(d, "imgGarantias");
+        EXPECT_EQ(c.Cajas, Textos{"[!] AVISO: No se pueden calcular las garantías, el sistema reducido es igual al "
+                                  "sistema condicionado"});
+        Pulsar(d, "imgVolver");
+    });
+    pasos.Empezar();
+    Pulsar(c.ventana, "lblMenu_4");
+    EXPECT_EQ(pasos.Dados(), 1u);
 }

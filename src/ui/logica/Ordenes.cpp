@@ -49,6 +49,7 @@ bool OrdenDisponible(Orden orden) {
     case Orden::InformeApuestasEliminadas:
     case Orden::Estadisticas:
     case Orden::VerApuestas:
+    case Orden::Garantias:
     case Orden::AyudaOnline:
     case Orden::AcercaDe:
     case Orden::ValidarOnLine:

@@ -9,7 +9,9 @@
 #include "LogicaReduccion.h"
 #include "MarcoFiltro.h"
 #include "PanelContadores.h"
+#include "Pintores.h"
 #include "TextoQt.h"
+#include "frmGarantiasTOTAL.h"
 #include "modGeneral.h"
 
 namespace {
@@ -137,7 +139,8 @@ void frmVentanaProceso::CrearPie(QVBoxLayout& caja) {
                        &LogicaVentanaProceso::Detener);
     imgVerPorcentajes = boton("imgVerPorcentajes", "Ver Porcentajes", "Ver los porcentajes en un informe",
                               &LogicaVentanaProceso::VerPorcentajes);
-    imgGarantias = CrearBoton("imgGarantias", "Garantías", "Garantías del sistema: todavía no está disponible", [] {});
+    imgGarantias = CrearBoton("imgGarantias", "Garantías", "Garantías y porcentajes del sistema encontrado",
+                              [this] { Hacer([this] { AbrirGarantias(); }); });
     imgVolver = boton("imgVolver", "Volver", "Volver sin grabar las apuestas", &LogicaVentanaProceso::Volver);
     imgCalculoDefinitivo = boton("imgCalculoDefinitivo", "Cálculo Definitivo", "Aceptar el sistema y grabar apuestas",
                                  &LogicaVentanaProceso::CalculoDefinitivo);
@@ -154,6 +157,12 @@ void frmVentanaProceso::Hacer(const std::function<void()>& accion) {
     accion();
     Pintar();
     if (logica.Cerrada) done(QDialog::Accepted);
+}
+
+void frmVentanaProceso::AbrirGarantias() {
+    if (!logica.VerGarantias()) return;
+    frmGarantiasTOTAL garantias(logica.sesion, logica.entorno, this);
+    MostrarModal(garantias, [&garantias] { garantias.Pintar(); });
 }
 
 // A run takes the event loop, so that the first one waits for the window to be on the screen.

@@ -35,6 +35,7 @@ class frmVentanaProceso final : public QDialog {
     QGroupBox* CrearMarcha();
     void CrearPie(QVBoxLayout& caja);
     void Hacer(const std::function<void()>& accion);
+    void AbrirGarantias();
     void PintarMarcha();
     void PintarBotones();
 

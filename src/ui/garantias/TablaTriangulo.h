@@ -1,0 +1,14 @@
+// The triangle of a measure of guarantees: a row for each class of draw, a column for each hit level.
+#pragma once
+
+#include <QTableWidget>
+
+#include "LogicaGarantias.h"
+
+/// An empty table as large as its content at most needs. Ctrl+C copies what shows, for a spreadsheet.
+QTableWidget* CrearTablaTriangulo(const LogicaGarantias& logica);
+
+void PintarTablaTriangulo(QTableWidget& tabla, const LogicaGarantias& logica);
+
+/// Puts the visible part on the clipboard.
+void CopiarTablaTriangulo(const LogicaGarantias& logica);

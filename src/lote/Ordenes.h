@@ -17,3 +17,5 @@ void DeclararGenerar(CLI::App& programa, Lote& lote);
 void DeclararSistemaPropio(CLI::App& programa, Lote& lote);
 void DeclararGarantias(CLI::App& programa, Lote& lote);
 void DeclararMiniGarantias(CLI::App& programa, Lote& lote);
+void DeclararEscrutar(CLI::App& programa, Lote& lote);
+void DeclararPremios(CLI::App& programa, Lote& lote);

@@ -44,6 +44,8 @@ int main(int argc, char** argv) {
     DeclararSistemaPropio(programa, lote);
     DeclararGarantias(programa, lote);
     DeclararMiniGarantias(programa, lote);
+    DeclararEscrutar(programa, lote);
+    DeclararPremios(programa, lote);
     try {
         programa.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {

@@ -7,6 +7,7 @@
 
 #include "FicheroAtomico.h"
 #include "Ficheros.h"
+#include "Informes.h"
 #include "LogicaEscrutar.h"
 
 namespace {
@@ -58,7 +59,7 @@ bool LogicaEscrutar::EscribirPremiados(const std::string& ruta, std::string& fal
 
 bool LogicaEscrutar::imgVerBoletosPremiados() {
     if (!EscrutarSistema()) return false;
-    const std::string ruta = entorno.CarpetaInformes + "/TOMBOLERA_PREMIOS.txt";
+    const std::string ruta = RutaInforme(entorno, "TOMBOLERA_PREMIOS.txt");
     std::string fallo;
     Escrutando = true;
     bool escrito = false;
@@ -68,7 +69,7 @@ bool LogicaEscrutar::imgVerBoletosPremiados() {
         fallo = DescripcionFallo(ENOMEM);
     }
     Escrutando = false;
-    if (!escrito) return FalloAlGuardar(entorno, fallo);
+    if (!escrito) return FalloAlGenerarInforme(entorno, fallo);
     entorno.VerInforme(ruta);
     return true;
 }

@@ -1,11 +1,9 @@
 // The report of the prize calculator.
 #include <fmt/format.h>
 
-#include "FicheroAtomico.h"
-#include "Ficheros.h"
 #include "FormatoImporte.h"
+#include "Informes.h"
 #include "LogicaCalculadoraPremios.h"
-#include "Texto8bits.h"
 #include "modGeneral.h"
 
 namespace {
@@ -25,7 +23,7 @@ std::string LogicaCalculadoraPremios::TextoInforme() const {
     const EstadoTrabajo& trabajo = escrutar.sesion.trabajo;
     const CombinacionReferencia& sorteo = escrutar.sesion.referencia;
     std::string texto;
-    const auto linea = [&texto](const std::string& contenido) { texto += contenido + "\r\n"; };
+    const auto linea = [&texto](const std::string& contenido) { texto += contenido + "\n"; };
     linea("Tipo de Juego            : " + trabajo.TipoJuego());
     linea("Fecha Sorteo             : " + txtDia + "/" + txtMes + "/" + txtAnio);
     linea("Número Sorteo            : " + txtNumeroSorteo);
@@ -50,10 +48,5 @@ bool LogicaCalculadoraPremios::cmdVerInformePremios() {
     if (Recortar(txtAnio).empty() || Recortar(txtNumeroSorteo).empty())
         return Fallo(entorno, "ERROR: ALGUN CAMPO ESTA VACIO");
     Recalcular();
-    const std::string ruta = entorno.CarpetaInformes + "/TOMBOLERA_TEMP.txt";
-    FicheroAtomico fichero;
-    if (!fichero.Abrir(ruta) || !fichero.Escribir(Utf8ACodigo8(TextoInforme())) || !fichero.Confirmar())
-        return FalloAlGuardar(entorno, fichero.Fallo());
-    entorno.VerInforme(ruta);
-    return true;
+    return MostrarInforme(entorno, "TOMBOLERA_TEMP.txt", TextoInforme());
 }

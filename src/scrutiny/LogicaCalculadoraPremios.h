@@ -49,7 +49,7 @@ struct LogicaCalculadoraPremios : PremiosGuardados {
 
     /// Writes the report TOMBOLERA_TEMP.txt and shows it.
     bool cmdVerInformePremios();
-    std::string TextoInforme() const; ///< lines end in CR LF
+    std::string TextoInforme() const;
 
     /// Ask for a file and save the calculation in it, or take it from there. False when cancelled, and
     /// after a box; a file that cannot be read leaves all as it was.

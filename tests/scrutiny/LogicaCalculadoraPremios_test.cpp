@@ -214,7 +214,7 @@ TEST(LogicaCalculadoraPremios, ElInformeDiceTodoLineaALinea) {
     c.logica->txtNumeroSorteo = " ";
     EXPECT_FALSE(c.logica->cmdVerInformePremios());
     EXPECT_EQ(c.Cajas,
-              (Textos{"[X] ERROR AL GUARDAR EL FICHERO, FICHERO NO GUARDADO (no existe el fichero o la carpeta)",
+              (Textos{"[X] ERROR AL GENERAR EL FICHERO EN EL BLOC DE NOTAS (no existe el fichero o la carpeta)",
                       "[X] ERROR: ALGUN CAMPO ESTA VACIO"}));
 }
 

@@ -256,7 +256,7 @@ TEST(LogicaEscrutar, UnInformeQueNoSePuedeEscribirSeDice) {
     e.entorno.CarpetaInformes = e.carpeta.Ruta("no/existe");
     EXPECT_FALSE(e.logica->imgVerBoletosPremiados());
     EXPECT_EQ(e.Cajas,
-              Textos{"[X] ERROR AL GUARDAR EL FICHERO, FICHERO NO GUARDADO (no existe el fichero o la carpeta)"});
+              Textos{"[X] ERROR AL GENERAR EL FICHERO EN EL BLOC DE NOTAS (no existe el fichero o la carpeta)"});
     EXPECT_TRUE(e.Informes.empty());
     EXPECT_FALSE(e.logica->Escrutando);
 }

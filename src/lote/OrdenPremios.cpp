@@ -1,0 +1,64 @@
+// premios: what a system won in the draw of a date.
+#include "Argumentos.h"
+#include "ArgumentosSorteo.h"
+#include "Ficheros.h"
+#include "LogicaCalculadoraPremios.h"
+#include "Ordenes.h"
+#include "Sesiones.h"
+
+namespace {
+
+struct ArgumentosPremios : ArgumentosSorteo {
+    std::string Dia, Mes, Anio, Sorteos;
+};
+
+// Some ten times the whole history of a game.
+constexpr int64_t BytesMaximosRespuesta = int64_t{64} << 20;
+
+void OpcionFecha(CLI::App* orden, ArgumentosPremios& argumentos) {
+    const auto leer = [&argumentos](const CLI::results_t& valores) {
+        const std::string& fecha = valores.front();
+        const size_t una = fecha.find('/'), otra = fecha.find('/', una == std::string::npos ? una : una + 1);
+        if (una == std::string::npos || otra == std::string::npos)
+            throw CLI::ValidationError("--fecha", "se espera DD/MM/AAAA, no " + fecha);
+        argumentos.Dia = fecha.substr(0, una);
+        argumentos.Mes = fecha.substr(una + 1, otra - una - 1);
+        argumentos.Anio = fecha.substr(otra + 1);
+        return true;
+    };
+    orden->add_option("--fecha", leer, "Fecha del sorteo, con los ceros que le pone el servicio")
+        ->type_name("DD/MM/AAAA")
+        ->required();
+}
+
+bool Premios(Lote& lote, const ArgumentosPremios& argumentos) {
+    CambiarJuego(lote.sesion, argumentos.Juego);
+    LogicaEscrutar escrutar(lote.sesion, lote.entorno);
+    escrutar.chkReintegros = false;
+    if (!escrutar.imgCalculadoraPremios() || !CargarYMarcar(escrutar, argumentos) || !escrutar.EscrutarSistema())
+        return false;
+    if (!argumentos.Sorteos.empty()) {
+        lote.entorno.Servicio = "fichero";
+        lote.entorno.PedirHttp = [&argumentos](const std::string&, std::string& cuerpo, std::string& fallo) {
+            return LeerFichero(argumentos.Sorteos, BytesMaximosRespuesta, cuerpo, fallo);
+        };
+    }
+    LogicaCalculadoraPremios calculadora(escrutar);
+    calculadora.txtDia = argumentos.Dia;
+    calculadora.txtMes = argumentos.Mes;
+    calculadora.txtAnio = argumentos.Anio;
+    if (!calculadora.cmdConsultarSorteo() || !calculadora.cmdVerInformePremios()) return false;
+    lote.salida.Escribir(calculadora.TextoInforme());
+    return true;
+}
+
+} // namespace
+
+void DeclararPremios(CLI::App& programa, Lote& lote) {
+    const auto argumentos = std::make_shared<ArgumentosPremios>();
+    CLI::App* orden = NuevaOrden(programa, lote, "premios", "Calcula lo que ganó un fichero de apuestas en un sorteo",
+                                 [argumentos](Lote& l) { return Premios(l, *argumentos); });
+    DeclararSorteo(orden, *argumentos);
+    OpcionFecha(orden, *argumentos);
+    Fichero(orden, "--sorteos", argumentos->Sorteos, "Respuesta guardada del servicio, en lugar de consultarlo");
+}

@@ -3,10 +3,25 @@
 #include "Pintores.h"
 #include "frmAcercaDe.h"
 #include "frmAnalisis.h"
+#include "frmEscrutar.h"
 #include "frmEstadisticas.h"
 #include "frmGarantiasTOTAL.h"
 
 namespace {
+
+// A modal window that is painted during long jobs.
+template <class Ventana, class... Argumentos>
+bool Mostrar(Argumentos&&... argumentos) {
+    Ventana ventana(std::forward<Argumentos>(argumentos)...);
+    MostrarModal(ventana, [&ventana] { ventana.Pintar(); });
+    return true;
+}
+
+bool MostrarAcercaDe(QWidget* padre) {
+    frmAcercaDe acercaDe(padre);
+    MostrarModal(acercaDe);
+    return true;
+}
 
 // One that has closed lives on until the event loop takes it away.
 QDialog* EstadisticasAbiertas(const QWidget& padre) {
@@ -16,7 +31,7 @@ QDialog* EstadisticasAbiertas(const QWidget& padre) {
 }
 
 // One alone: opening it again brings it to the front.
-void AbrirEstadisticas(EstadoTrabajo& trabajo, Entorno& entorno, QWidget& padre) {
+bool AbrirEstadisticas(EstadoTrabajo& trabajo, Entorno& entorno, QWidget& padre) {
     QDialog* ventana = EstadisticasAbiertas(padre);
     if (ventana == nullptr) {
         ventana = new frmEstadisticas(trabajo, entorno, &padre);
@@ -26,6 +41,7 @@ void AbrirEstadisticas(EstadoTrabajo& trabajo, Entorno& entorno, QWidget& padre)
     ventana->show();
     ventana->raise();
     ventana->activateWindow();
+    return true;
 }
 
 } // namespace
@@ -36,25 +52,18 @@ bool CerrarVentanas(const QWidget& padre) {
 }
 
 bool AbrirVentana(Orden orden, Sesion& sesion, Entorno& entorno, QWidget* padre) {
+    EstadoTrabajo& trabajo = sesion.trabajo;
     switch (orden) {
+    case Orden::AcercaDe:
+        return MostrarAcercaDe(padre);
     case Orden::Estadisticas:
-        AbrirEstadisticas(sesion.trabajo, entorno, *padre);
-        return true;
-    case Orden::Analisis: {
-        frmAnalisis analisis(sesion, entorno, sesion.trabajo.Contador.Reducidas, padre);
-        MostrarModal(analisis);
-        return true;
-    }
-    case Orden::AcercaDe: {
-        frmAcercaDe acercaDe(padre);
-        MostrarModal(acercaDe);
-        return true;
-    }
-    case Orden::Garantias: {
-        frmGarantiasTOTAL garantias(sesion, entorno, padre);
-        MostrarModal(garantias, [&garantias] { garantias.Pintar(); });
-        return true;
-    }
+        return AbrirEstadisticas(trabajo, entorno, *padre);
+    case Orden::Analisis:
+        return Mostrar<frmAnalisis>(sesion, entorno, trabajo.Contador.Reducidas, padre);
+    case Orden::Garantias:
+        return Mostrar<frmGarantiasTOTAL>(sesion, entorno, padre);
+    case Orden::EscrutinioApuestas:
+        return Mostrar<frmEscrutar>(sesion, entorno, padre);
     default:
         return false;
     }

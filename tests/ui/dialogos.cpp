@@ -13,6 +13,8 @@
 #include "frmAnalisis.h"
 #include "frmEstadisticas.h"
 #include "frmGarantiasTOTAL.h"
+#include "frmCalculadoraPremios.h"
+#include "frmEscrutar.h"
 #include "frmVentanaProceso.h"
 
 namespace {
@@ -83,6 +85,15 @@ std::unique_ptr<QDialog> Garantias(Guion& g) {
     return ventana;
 }
 
+// Over a check that stays as long as the next one is made.
+std::unique_ptr<QDialog> CalculadoraPremios(Guion& g) {
+    static std::unique_ptr<LogicaEscrutar> escrutar;
+    g.sesion.referencia = {{1, 2, 3, 4, 5, 6}, 7};
+    escrutar = std::make_unique<LogicaEscrutar>(g.sesion, g.entorno);
+    escrutar->Abrir();
+    return std::make_unique<frmCalculadoraPremios>(*escrutar, nullptr);
+}
+
 // A base, without which no number takes a mark.
 std::unique_ptr<QDialog> Valoraciones(Guion& g) {
     g.MarcarHasta(14);
@@ -118,6 +129,8 @@ const std::vector<DialogoProbado>& Dialogos() {
         {"frmEstadisticas", Estadisticas, false, true},
         {"frmGarantiasTOTAL", Garantias},
         {"frmAciertos", Aciertos},
+        {"frmEscrutar", [](Guion& g) { return std::make_unique<frmEscrutar>(g.sesion, g.entorno, nullptr); }},
+        {"frmCalculadoraPremios", CalculadoraPremios},
         {"frmAlazar", [](Guion& g) { return std::make_unique<frmAlazar>(g.sesion.trabajo, nullptr); }},
         {"frmAcercaDe", [](Guion&) { return std::make_unique<frmAcercaDe>(nullptr); }},
     };

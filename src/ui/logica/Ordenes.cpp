@@ -50,6 +50,7 @@ bool OrdenDisponible(Orden orden) {
     case Orden::Estadisticas:
     case Orden::VerApuestas:
     case Orden::Garantias:
+    case Orden::EscrutinioApuestas:
     case Orden::AyudaOnline:
     case Orden::AcercaDe:
     case Orden::ValidarOnLine:

@@ -17,3 +17,5 @@ struct TrabajoEscrutinio {
 
 /// Adds the check against one draw. `boleto` has every bet of 49 numbers in seven rows and outlives them.
 void AnotarUnSorteo(const Tabla& boleto, std::vector<TrabajoEscrutinio>& trabajos);
+/// Adds the check against many draws, of a part of the ticket and of all of it.
+void AnotarVariosSorteos(const Tabla& boleto, std::vector<TrabajoEscrutinio>& trabajos);

@@ -63,6 +63,7 @@ int main(int argc, char** argv) {
     const Tabla boleto = BoletoEntero();
     std::vector<TrabajoEscrutinio> trabajos;
     AnotarUnSorteo(boleto, trabajos);
+    AnotarVariosSorteos(boleto, trabajos);
     double lectura = 1e9;
     std::vector<double> minimos(trabajos.size(), 1e9);
     bool bien = true;

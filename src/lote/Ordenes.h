@@ -19,3 +19,5 @@ void DeclararGarantias(CLI::App& programa, Lote& lote);
 void DeclararMiniGarantias(CLI::App& programa, Lote& lote);
 void DeclararEscrutar(CLI::App& programa, Lote& lote);
 void DeclararPremios(CLI::App& programa, Lote& lote);
+void DeclararMultiescrutinio(CLI::App& programa, Lote& lote);
+void DeclararMultifichero(CLI::App& programa, Lote& lote);

@@ -46,6 +46,8 @@ int main(int argc, char** argv) {
     DeclararMiniGarantias(programa, lote);
     DeclararEscrutar(programa, lote);
     DeclararPremios(programa, lote);
+    DeclararMultiescrutinio(programa, lote);
+    DeclararMultifichero(programa, lote);
     try {
         programa.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {

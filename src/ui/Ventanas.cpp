@@ -6,20 +6,18 @@
 #include "frmEscrutar.h"
 #include "frmEstadisticas.h"
 #include "frmGarantiasTOTAL.h"
+#include "frmMultiEscrutinioEstadistico.h"
+#include "frmMultiEscrutinioMultiFichero.h"
 
 namespace {
 
-// A modal window that is painted during long jobs.
+// A modal window painted during long jobs when it shows them.
 template <class Ventana, class... Argumentos>
 bool Mostrar(Argumentos&&... argumentos) {
     Ventana ventana(std::forward<Argumentos>(argumentos)...);
-    MostrarModal(ventana, [&ventana] { ventana.Pintar(); });
-    return true;
-}
-
-bool MostrarAcercaDe(QWidget* padre) {
-    frmAcercaDe acercaDe(padre);
-    MostrarModal(acercaDe);
+    MostrarModal(ventana, [&ventana] {
+        if constexpr (requires { ventana.Pintar(); }) ventana.Pintar();
+    });
     return true;
 }
 
@@ -55,7 +53,7 @@ bool AbrirVentana(Orden orden, Sesion& sesion, Entorno& entorno, QWidget* padre)
     EstadoTrabajo& trabajo = sesion.trabajo;
     switch (orden) {
     case Orden::AcercaDe:
-        return MostrarAcercaDe(padre);
+        return Mostrar<frmAcercaDe>(padre);
     case Orden::Estadisticas:
         return AbrirEstadisticas(trabajo, entorno, *padre);
     case Orden::Analisis:
@@ -64,6 +62,10 @@ bool AbrirVentana(Orden orden, Sesion& sesion, Entorno& entorno, QWidget* padre)
         return Mostrar<frmGarantiasTOTAL>(sesion, entorno, padre);
     case Orden::EscrutinioApuestas:
         return Mostrar<frmEscrutar>(sesion, entorno, padre);
+    case Orden::MultiEscrutinioEstadistico:
+        return Mostrar<frmMultiEscrutinioEstadistico>(sesion, entorno, padre);
+    case Orden::MultiEscrutinioMultiFichero:
+        return Mostrar<frmMultiEscrutinioMultiFichero>(sesion, entorno, padre);
     default:
         return false;
     }

@@ -15,6 +15,8 @@
 #include "frmGarantiasTOTAL.h"
 #include "frmCalculadoraPremios.h"
 #include "frmEscrutar.h"
+#include "frmMultiEscrutinioEstadistico.h"
+#include "frmMultiEscrutinioMultiFichero.h"
 #include "frmVentanaProceso.h"
 
 namespace {
@@ -92,13 +94,17 @@ std::unique_ptr<QDialog> CalculadoraPremios(Guion& g) {
     escrutar = std::make_unique<LogicaEscrutar>(g.sesion, g.entorno);
     escrutar->Abrir();
     return std::make_unique<frmCalculadoraPremios>(*escrutar, nullptr);
-}
+    // Its question before it closes is answered "sí".
+    std::unique_ptr<QDialog> MultiFichero(Guion & g) {
+        g.entorno.Preguntar = [](const std::string&) { return true; };
+        return std::make_unique<frmMultiEscrutinioMultiFichero>(g.sesion, g.entorno, nullptr);
+    }
 
-// A base, without which no number takes a mark.
-std::unique_ptr<QDialog> Valoraciones(Guion& g) {
-    g.MarcarHasta(14);
-    return CrearDialogoFiltro(kVALORACIONES, g.sesion, g.entorno, nullptr);
-}
+    // A base, without which no number takes a mark.
+    std::unique_ptr<QDialog> Valoraciones(Guion & g) {
+        g.MarcarHasta(14);
+        return CrearDialogoFiltro(kVALORACIONES, g.sesion, g.entorno, nullptr);
+    }
 
 } // namespace
 
@@ -131,6 +137,9 @@ const std::vector<DialogoProbado>& Dialogos() {
         {"frmAciertos", Aciertos},
         {"frmEscrutar", [](Guion& g) { return std::make_unique<frmEscrutar>(g.sesion, g.entorno, nullptr); }},
         {"frmCalculadoraPremios", CalculadoraPremios},
+        {"frmMultiEscrutinioEstadistico",
+         [](Guion& g) { return std::make_unique<frmMultiEscrutinioEstadistico>(g.sesion, g.entorno, nullptr); }},
+        {"frmMultiEscrutinioMultiFichero", MultiFichero},
         {"frmAlazar", [](Guion& g) { return std::make_unique<frmAlazar>(g.sesion.trabajo, nullptr); }},
         {"frmAcercaDe", [](Guion&) { return std::make_unique<frmAcercaDe>(nullptr); }},
     };

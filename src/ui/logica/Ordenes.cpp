@@ -51,6 +51,8 @@ bool OrdenDisponible(Orden orden) {
     case Orden::VerApuestas:
     case Orden::Garantias:
     case Orden::EscrutinioApuestas:
+    case Orden::MultiEscrutinioMultiFichero:
+    case Orden::MultiEscrutinioEstadistico:
     case Orden::AyudaOnline:
     case Orden::AcercaDe:
     case Orden::ValidarOnLine:

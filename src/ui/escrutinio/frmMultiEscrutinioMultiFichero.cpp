@@ -1,0 +1,165 @@
+#include "frmMultiEscrutinioMultiFichero.h"
+
+#include <QFileInfo>
+
+#include "MarcoFiltro.h"
+#include "SoltarFicheros.h"
+#include "TextoQt.h"
+
+namespace {
+
+constexpr int ColumnasResumen = 110; // and some room for the bar at the side
+constexpr int FilasFicheros = 5, FilasInforme = 8;
+
+} // namespace
+
+frmMultiEscrutinioMultiFichero::frmMultiEscrutinioMultiFichero(Sesion& sesion, Entorno& entorno, QWidget* padre)
+    : QDialog(padre), logica(sesion, entorno) {
+    setObjectName(Q("frmMultiEscrutinioMultiFichero"));
+    setWindowTitle(Q(logica.Titulo()));
+    auto* fuera = new QVBoxLayout(this);
+    fuera->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
+    fuera->setSpacing(Paso);
+    cuerpo = new QWidget;
+    fuera->addWidget(cuerpo, 1);
+    auto* caja = new QVBoxLayout(cuerpo);
+    caja->setContentsMargins(0, 0, 0, 0);
+    caja->setSpacing(Paso);
+    PonerCabecera(*caja, "MultiEscrutinio MultiFichero",
+                  "Cuenta los aciertos de muchos ficheros de apuestas en una lista de sorteos, una fila por fichero. "
+                  "Los ficheros también pueden soltarse sobre la ventana, todos a la vez.");
+    CrearSorteos(*caja);
+    CrearFicheros(*caja);
+    CrearResultados(*caja);
+    CrearPie(*caja);
+    marcha = CrearPanelMarcha(*fuera, "Saltar el fichero que se está escrutando y seguir con el siguiente",
+                              [this] { logica.cmdStop(); });
+    marcha.lblEstado->setObjectName(Q("lblEscrutando"));
+    AceptarFicheros(
+        *this, true, [this] { return !logica.Ocupada(); },
+        [this](const auto& rutas) { Hacer([&] { logica.AnadirFicheros(rutas); }); });
+    Pintar();
+    AjustarTamanio(*this);
+}
+
+void frmMultiEscrutinioMultiFichero::CrearSorteos(QBoxLayout& donde) {
+    QGridLayout* rejilla = CrearCaja(donde, "SORTEOS");
+    auto* fila = new QHBoxLayout;
+    sorteos =
+        CrearFilaFichero(*fila, {"cmdDesdeFicheroSORTEOS", "Abrir ...",
+                                 "Abrir la lista de sorteos, seis números por línea", "txtFicheroASCIISORTEOS",
+                                 "lblApuCargadas", [this] { Hacer([this] { logica.cmdDesdeFicheroSORTEOS(); }); }});
+    fila->addWidget(CrearBoton("imgINICombinacionSORTEOS", "Quitar", "Quitar la lista de sorteos",
+                               [this] { Hacer([this] { logica.imgINICombinacionSORTEOS(); }); }));
+    rejilla->addLayout(fila, 0, 0);
+}
+
+void frmMultiEscrutinioMultiFichero::CrearFicheros(QBoxLayout& donde) {
+    QGridLayout* rejilla = CrearCaja(donde, "FICHEROS");
+    lstFicheros = new QListWidget;
+    lstFicheros->setObjectName(Q("lstFicheros"));
+    lstFicheros->setAccessibleName(Q("Ficheros que se escrutan, en este orden"));
+    lstFicheros->setAlternatingRowColors(true);
+    lstFicheros->setUniformItemSizes(true);
+    lstFicheros->setTextElideMode(Qt::ElideMiddle);
+    lstFicheros->setMinimumHeight(FilasFicheros * (lstFicheros->fontMetrics().height() + 4));
+    connect(lstFicheros, &QListWidget::currentRowChanged, this, [this](int fila) { logica.Seleccionado = fila; });
+    const auto boton = [this](const char* nombre, const char* texto, const char* ayuda, auto accion) {
+        return CrearBoton(nombre, texto, ayuda, [this, accion] { Hacer([&] { (logica.*accion)(); }); });
+    };
+    using L = LogicaMultiEscrutinioMultiFichero;
+    auto* botones = new QVBoxLayout;
+    botones->setSpacing(Paso);
+    botones->addWidget(boton("cmdADD", "Añadir ...", "Añadir ficheros de apuestas a la lista", &L::cmdADD));
+    botones->addWidget(boton("cmdDEL", "Quitar", "Quitar de la lista el fichero señalado", &L::cmdDEL));
+    botones->addWidget(boton("cmdDELALL", "Quitar todos", "Vaciar la lista de ficheros", &L::cmdDELALL));
+    lblFicheros = new QLabel;
+    lblFicheros->setObjectName(Q("lblFicheros"));
+    lblFicheros->setAlignment(Qt::AlignRight);
+    botones->addWidget(lblFicheros);
+    botones->addStretch();
+    rejilla->addWidget(lstFicheros, 0, 0);
+    rejilla->addLayout(botones, 0, 1);
+    rejilla->setColumnStretch(0, 1);
+}
+
+void frmMultiEscrutinioMultiFichero::CrearResultados(QBoxLayout& donde) {
+    QGridLayout* rejilla = CrearCaja(donde, "RESULTADOS");
+    donde.setStretchFactor(rejilla->parentWidget(), 1);
+    chkTipoListadoPremios = new QCheckBox(Q("Informe detallado de cada fichero"));
+    chkTipoListadoPremios->setObjectName(Q("chkTipoListadoPremios"));
+    chkTipoListadoPremios->setToolTip(
+        Q("Escribe y abre un informe por fichero, con una línea por sorteo, en lugar de la tabla resumen"));
+    connect(chkTipoListadoPremios, &QCheckBox::clicked, this,
+            [this](bool si) { Hacer([&] { logica.chkTipoListadoPremios = si; }); });
+    lblEstado = new QLabel;
+    lblEstado->setObjectName(Q("lblEstado"));
+    lblImportando = CrearCifra("lblImportando", "Apuestas importadas", "13.983.816");
+    txtInforme = CrearTextoFijo("txtInforme", "Resultado del escrutinio, fichero a fichero");
+    txtInforme->setMinimumWidth(txtInforme->fontMetrics().horizontalAdvance(QLatin1Char('0')) * ColumnasResumen);
+    txtInforme->setMinimumHeight(FilasInforme * txtInforme->fontMetrics().lineSpacing());
+    rejilla->addWidget(chkTipoListadoPremios, 0, 0);
+    rejilla->addWidget(lblEstado, 0, 1);
+    rejilla->addWidget(new QLabel(Q("Apuestas:")), 0, 2);
+    rejilla->addWidget(lblImportando, 0, 3);
+    rejilla->addWidget(txtInforme, 1, 0, 1, 4);
+    rejilla->setColumnStretch(1, 1);
+    lblEstado->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+}
+
+void frmMultiEscrutinioMultiFichero::CrearPie(QBoxLayout& caja) {
+    auto* pie = new QHBoxLayout;
+    pie->setContentsMargins(0, Paso, 0, 0);
+    auto* escrutar = CrearBoton("imgEscrutar", "Escrutar", "Escrutar todos los ficheros de la lista",
+                                [this] { Hacer([this] { logica.imgEscrutar(); }); });
+    escrutar->setDefault(true);
+    pie->addWidget(escrutar);
+    pie->addWidget(CrearBoton("imgVerInformeResumenPremios", "Ver Informe", "Ver el resultado en un informe",
+                              [this] { Hacer([this] { logica.imgVerInformeResumenPremios(); }); }));
+    imgCopiar = CrearBoton("imgCopiar", "Copiar tabla", "Copiar los ficheros y sus aciertos como una tabla",
+                           [this] { CopiarComoTabla(TablaEscrutados(logica.Escrutados)); });
+    pie->addWidget(imgCopiar);
+    pie->addStretch();
+    pie->addWidget(CrearBoton("imgVolver", "Volver", "Cerrar el escrutinio", [this] { close(); }));
+    caja.addLayout(pie);
+}
+
+void frmMultiEscrutinioMultiFichero::Hacer(const std::function<void()>& accion) {
+    accion();
+    Pintar();
+}
+
+void frmMultiEscrutinioMultiFichero::reject() {
+    if (logica.PuedeCerrar()) QDialog::reject();
+}
+
+// The rows are the paths by themselves; a long list is only built anew when it has changed.
+void frmMultiEscrutinioMultiFichero::PintarFicheros() {
+    QStringList rutas;
+    for (const std::string& ruta : logica.lstFicheros) rutas << Q(ruta);
+    QStringList mostradas;
+    for (int i = 0; i < lstFicheros->count(); ++i) mostradas << lstFicheros->item(i)->text();
+    if (mostradas != rutas) {
+        const QSignalBlocker callada(lstFicheros);
+        lstFicheros->clear();
+        lstFicheros->addItems(rutas);
+        lstFicheros->setCurrentRow(logica.Seleccionado);
+    }
+    lblFicheros->setText(QString::number(rutas.size()) + Q(rutas.size() == 1 ? " fichero" : " ficheros"));
+}
+
+void frmMultiEscrutinioMultiFichero::Pintar() {
+    if (logica.Ocupada() && cuerpo->isEnabled()) focoAnterior = focusWidget();
+    cuerpo->setEnabled(!logica.Ocupada());
+    PintarFilaFichero(sorteos, logica.txtFicheroASCIISORTEOS, logica.lblApuCargadas);
+    if (!logica.Corriendo) PintarFicheros();
+    chkTipoListadoPremios->setChecked(logica.chkTipoListadoPremios);
+    lblEstado->setText(Q(logica.lblEstado));
+    lblImportando->setText(Q(logica.lblImportando));
+    PintarTextoFijo(*txtInforme, logica.txtInforme);
+    imgCopiar->setEnabled(!logica.Escrutados.empty());
+    PintarPanelMarcha(marcha, logica.Escrutando ? logica.lblEscrutando : "", logica.Escrutando, logica.lblProgressBar);
+    if (logica.Ocupada() || focoAnterior == nullptr) return;
+    focoAnterior->setFocus();
+    focoAnterior = nullptr;
+}

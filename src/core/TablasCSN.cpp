@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cassert>
+#include <cstring>
 
-#include "Juegos.h"
 #include "modGeneral.h"
 
 namespace {
@@ -34,6 +34,7 @@ const Terminos& TerminosCSN() {
 }
 
 using Bloque = std::array<std::array<uint8_t, ApuestasPorBloqueCSN>, 6>;
+using SeisFilas = std::array<uint8_t*, 6>;
 
 // Plain pointers that do not overlap, so that the loop is a few vector instructions.
 void Ordenar(uint8_t* __restrict a, uint8_t* __restrict b) {
@@ -44,11 +45,17 @@ void Ordenar(uint8_t* __restrict a, uint8_t* __restrict b) {
     }
 }
 
-// A sorting network of six, on all bets of the block at once.
-void OrdenarNumeros(Bloque& b) {
+// A sorting network of six, on all bets of a block at once.
+void OrdenarBloque(const SeisFilas& fila) {
     constexpr std::array<std::array<uint8_t, 2>, 12> Red{
         {{0, 5}, {1, 3}, {2, 4}, {1, 2}, {3, 4}, {0, 3}, {2, 5}, {0, 1}, {2, 3}, {4, 5}, {1, 2}, {3, 4}}};
-    for (const auto& [x, y] : Red) Ordenar(b[x].data(), b[y].data());
+    for (const auto& [x, y] : Red) Ordenar(fila[x], fila[y]);
+}
+
+SeisFilas Filas(Tabla& apuestas, int64_t primera) {
+    SeisFilas fila;
+    for (int r = 0; r < 6; ++r) fila[static_cast<size_t>(r)] = apuestas.Fila(r + 1) + primera - 1;
+    return fila;
 }
 
 // Three numbers in the low bytes of a word.
@@ -85,7 +92,19 @@ struct TablasInversas {
             pista[i] = static_cast<uint16_t>(k);
         }
     }
+
+    // The head of a place from the end.
+    size_t CabezaDe(int32_t lugar) const {
+        size_t k = pista[static_cast<size_t>(lugar >> Bits)];
+        while (inicio[k + 1] <= lugar) ++k;
+        return k;
+    }
 };
+
+const TablasInversas& Inversas() {
+    static const TablasInversas t;
+    return t;
+}
 
 void Repartir(Terna terna, uint8_t* a, uint8_t* b, uint8_t* c) {
     *a = static_cast<uint8_t>(terna);
@@ -99,11 +118,13 @@ void CombinacionesaCSN(const Tabla& apuestas, int64_t primera, int64_t n, int32_
     assert(n == 0 || (primera >= 1 && primera + n - 1 <= apuestas.Apuestas()));
     const Terminos& t = TerminosCSN();
     Bloque b;
+    SeisFilas fila;
+    for (size_t r = 0; r < 6; ++r) fila[r] = b[r].data();
     for (int64_t hechas = 0; hechas < n; hechas += ApuestasPorBloqueCSN) {
         for (int r = 0; r < 6; ++r)
             std::copy_n(apuestas.Fila(r + 1) + primera - 1 + hechas, ApuestasPorBloqueCSN,
-                        b[static_cast<size_t>(r)].begin());
-        OrdenarNumeros(b);
+                        fila[static_cast<size_t>(r)]);
+        OrdenarBloque(fila);
         const auto cuantas = static_cast<size_t>(std::min(n - hechas, ApuestasPorBloqueCSN));
         for (size_t i = 0; i < cuantas; ++i)
             *csn++ = ApuestasMaximas -
@@ -113,17 +134,50 @@ void CombinacionesaCSN(const Tabla& apuestas, int64_t primera, int64_t n, int32_
 
 void CSNaCombinaciones(const int32_t* csn, int64_t n, Tabla& apuestas, int64_t primera) {
     assert(n == 0 || (primera >= 1 && primera + n - 1 <= apuestas.Apuestas()));
-    static const TablasInversas t;
-    std::array<uint8_t*, 6> fila;
-    for (int r = 0; r < 6; ++r) fila[static_cast<size_t>(r)] = apuestas.Fila(r + 1) + primera - 1;
+    const TablasInversas& t = Inversas();
+    const SeisFilas fila = Filas(apuestas, primera);
     for (int64_t i = 0; i < n; ++i) {
         assert(csn[i] >= 1 && csn[i] <= ApuestasMaximas);
         const int32_t lugar = ApuestasMaximas - csn[i];
-        size_t k = t.pista[static_cast<size_t>(lugar >> TablasInversas::Bits)];
-        while (t.inicio[k + 1] <= lugar) ++k;
+        const size_t k = t.CabezaDe(lugar);
         Repartir(t.cabeza[k], fila[0] + i, fila[1] + i, fila[2] + i);
         Repartir(t.cola[static_cast<size_t>(lugar - t.inicio[k])], fila[3] + i, fila[4] + i, fila[5] + i);
     }
 }
 
-ConjuntoCSN::ConjuntoCSN() : bits_(static_cast<size_t>(ApuestasMaximas) / 64 + 1) {}
+void OrdenarNumeros(Tabla& apuestas) {
+    // The last block reaches into the spare bytes behind the rows.
+    for (int64_t i = 1; i <= apuestas.Apuestas(); i += ApuestasPorBloqueCSN) OrdenarBloque(Filas(apuestas, i));
+}
+
+ConjuntoCSN::ConjuntoCSN() : bits_(NPalabras) {}
+
+int64_t ConjuntoCSN::Cuantas() const {
+    int64_t cuantas = 0;
+    for (const uint64_t palabra : bits_) cuantas += std::popcount(palabra);
+    return cuantas;
+}
+
+// Bets in ascending order share their head for long runs.
+int64_t CombinacionesDeConjunto(const ConjuntoCSN& conjunto, int32_t desde, int32_t hasta, Tabla& apuestas,
+                                int64_t primera) {
+    assert(desde >= 1 && hasta <= ApuestasMaximas);
+    if (desde > hasta || apuestas.Apuestas() == 0) return 0;
+    const TablasInversas& t = Inversas();
+    SeisFilas fila = Filas(apuestas, primera);
+    int64_t escritas = 0;
+    size_t k = t.CabezaDe(ApuestasMaximas - desde);
+    for (int32_t csn = desde; csn <= hasta; --k) {
+        const int32_t cabo = ApuestasMaximas - t.inicio[k]; // last bet of the head
+        const int32_t fin = std::min(hasta, cabo);
+        const Terna* cola = t.cola.data();
+        uint8_t *d = fila[3], *e = fila[4], *f = fila[5];
+        conjunto.Recorrer(csn, fin, [&](int32_t c) { Repartir(cola[cabo - c], d++, e++, f++); });
+        const auto n = static_cast<size_t>(d - fila[3]);
+        for (size_t r = 0; r < 3; ++r) std::memset(fila[r], static_cast<uint8_t>(t.cabeza[k] >> 8 * r), n);
+        for (uint8_t*& destino : fila) destino += n;
+        escritas += static_cast<int64_t>(n);
+        csn = fin + 1;
+    }
+    return escritas;
+}

@@ -21,3 +21,4 @@ void DeclararEscrutar(CLI::App& programa, Lote& lote);
 void DeclararPremios(CLI::App& programa, Lote& lote);
 void DeclararMultiescrutinio(CLI::App& programa, Lote& lote);
 void DeclararMultifichero(CLI::App& programa, Lote& lote);
+void DeclararAlgebra(CLI::App& programa, Lote& lote);

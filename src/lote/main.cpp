@@ -48,6 +48,7 @@ int main(int argc, char** argv) {
     DeclararPremios(programa, lote);
     DeclararMultiescrutinio(programa, lote);
     DeclararMultifichero(programa, lote);
+    DeclararAlgebra(programa, lote);
     try {
         programa.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {

@@ -2,6 +2,7 @@
 
 #include "Pintores.h"
 #include "frmAcercaDe.h"
+#include "frmAlgebra.h"
 #include "frmAnalisis.h"
 #include "frmEscrutar.h"
 #include "frmEstadisticas.h"
@@ -66,6 +67,8 @@ bool AbrirVentana(Orden orden, Sesion& sesion, Entorno& entorno, QWidget* padre)
         return Mostrar<frmMultiEscrutinioEstadistico>(sesion, entorno, padre);
     case Orden::MultiEscrutinioMultiFichero:
         return Mostrar<frmMultiEscrutinioMultiFichero>(sesion, entorno, padre);
+    case Orden::Algebra:
+        return Mostrar<frmAlgebra>(sesion, entorno, padre);
     default:
         return false;
     }

@@ -10,6 +10,7 @@
 #include "frmAcercaDe.h"
 #include "frmAciertos.h"
 #include "frmAlazar.h"
+#include "frmAlgebra.h"
 #include "frmAnalisis.h"
 #include "frmEstadisticas.h"
 #include "frmGarantiasTOTAL.h"
@@ -94,17 +95,34 @@ std::unique_ptr<QDialog> CalculadoraPremios(Guion& g) {
     escrutar = std::make_unique<LogicaEscrutar>(g.sesion, g.entorno);
     escrutar->Abrir();
     return std::make_unique<frmCalculadoraPremios>(*escrutar, nullptr);
-    // Its question before it closes is answered "sí".
-    std::unique_ptr<QDialog> MultiFichero(Guion & g) {
-        g.entorno.Preguntar = [](const std::string&) { return true; };
-        return std::make_unique<frmMultiEscrutinioMultiFichero>(g.sesion, g.entorno, nullptr);
-    }
+}
 
-    // A base, without which no number takes a mark.
-    std::unique_ptr<QDialog> Valoraciones(Guion & g) {
-        g.MarcarHasta(14);
-        return CrearDialogoFiltro(kVALORACIONES, g.sesion, g.entorno, nullptr);
+// Its question before it closes is answered "sí".
+std::unique_ptr<QDialog> MultiFichero(Guion& g) {
+    g.entorno.Preguntar = [](const std::string&) { return true; };
+    return std::make_unique<frmMultiEscrutinioMultiFichero>(g.sesion, g.entorno, nullptr);
+}
+
+// Two systems and their sum.
+std::unique_ptr<QDialog> Algebra(Guion& g) {
+    static const CarpetaTemporal carpeta;
+    EscribirTodo(carpeta.Ruta("peña del sábado.txt"), "030712182941\n031012183341\n");
+    EscribirTodo(carpeta.Ruta("abono.txt"), "030712182941\n051419233840\n");
+    auto dialogo = std::make_unique<frmAlgebra>(g.sesion, g.entorno, nullptr);
+    for (const auto& [i, nombre] : {std::pair{"0", "peña del sábado.txt"}, {"1", "abono.txt"}}) {
+        g.Ficheros = {carpeta.Ruta(nombre)};
+        Hijo<QAbstractButton>(*dialogo, std::string("cmdDesdeFichero_") + i)->click();
     }
+    Hijo<QAbstractButton>(*dialogo, "optTipo_2")->click();
+    Hijo<QAbstractButton>(*dialogo, "imgCalcular")->click();
+    return dialogo;
+}
+
+// A base, without which no number takes a mark.
+std::unique_ptr<QDialog> Valoraciones(Guion& g) {
+    g.MarcarHasta(14);
+    return CrearDialogoFiltro(kVALORACIONES, g.sesion, g.entorno, nullptr);
+}
 
 } // namespace
 
@@ -140,6 +158,7 @@ const std::vector<DialogoProbado>& Dialogos() {
         {"frmMultiEscrutinioEstadistico",
          [](Guion& g) { return std::make_unique<frmMultiEscrutinioEstadistico>(g.sesion, g.entorno, nullptr); }},
         {"frmMultiEscrutinioMultiFichero", MultiFichero},
+        {"frmAlgebra", Algebra},
         {"frmAlazar", [](Guion& g) { return std::make_unique<frmAlazar>(g.sesion.trabajo, nullptr); }},
         {"frmAcercaDe", [](Guion&) { return std::make_unique<frmAcercaDe>(nullptr); }},
     };

@@ -53,6 +53,7 @@ bool OrdenDisponible(Orden orden) {
     case Orden::EscrutinioApuestas:
     case Orden::MultiEscrutinioMultiFichero:
     case Orden::MultiEscrutinioEstadistico:
+    case Orden::Algebra:
     case Orden::AyudaOnline:
     case Orden::AcercaDe:
     case Orden::ValidarOnLine:

@@ -43,10 +43,7 @@ void OpcionOperacion(CLI::App* orden, int& operacion) {
         operacion = static_cast<int>(hay - Operaciones.begin());
         return true;
     };
-    orden
-        ->add_option("OPERACION", leer,
-                     "ordenar el sistema 1; sumar los dos tal como están; unir sin repetidas; comunes a los dos; "
-                     "restar el 2 del 1")
+    orden->add_option("OPERACION", leer, "ordenar, sumar, unir (sin repetidas), comunes o restar")
         ->type_name("")
         ->required();
 }

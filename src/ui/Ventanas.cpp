@@ -7,8 +7,12 @@
 #include "frmEscrutar.h"
 #include "frmEstadisticas.h"
 #include "frmGarantiasTOTAL.h"
+#include "frmGeneradorApuestas.h"
+#include "frmGeneradorApuestasXPorcentaje.h"
 #include "frmMultiEscrutinioEstadistico.h"
 #include "frmMultiEscrutinioMultiFichero.h"
+#include "frmSistemasPropios.h"
+#include "frmVisualizar.h"
 
 namespace {
 
@@ -69,6 +73,14 @@ bool AbrirVentana(Orden orden, Sesion& sesion, Entorno& entorno, QWidget* padre)
         return Mostrar<frmMultiEscrutinioMultiFichero>(sesion, entorno, padre);
     case Orden::Algebra:
         return Mostrar<frmAlgebra>(sesion, entorno, padre);
+    case Orden::SistemasPropios:
+        return Mostrar<frmSistemasPropios>(trabajo, entorno, padre);
+    case Orden::GeneradorAleatoriasXNumero:
+        return Mostrar<frmGeneradorApuestas>(trabajo, entorno, padre);
+    case Orden::GeneradorAleatoriasXPorcentaje:
+        return Mostrar<frmGeneradorApuestasXPorcentaje>(trabajo, entorno, padre);
+    case Orden::VisualizarArchivo:
+        return Mostrar<frmVisualizar>(trabajo, entorno, padre);
     default:
         return false;
     }

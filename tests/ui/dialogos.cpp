@@ -18,7 +18,11 @@
 #include "frmEscrutar.h"
 #include "frmMultiEscrutinioEstadistico.h"
 #include "frmMultiEscrutinioMultiFichero.h"
+#include "frmGeneradorApuestas.h"
+#include "frmGeneradorApuestasXPorcentaje.h"
+#include "frmSistemasPropios.h"
 #include "frmVentanaProceso.h"
+#include "frmVisualizar.h"
 
 namespace {
 
@@ -124,6 +128,12 @@ std::unique_ptr<QDialog> Valoraciones(Guion& g) {
     return CrearDialogoFiltro(kVALORACIONES, g.sesion, g.entorno, nullptr);
 }
 
+// A tool over a fresh piece of work.
+template <class Ventana>
+std::unique_ptr<QDialog> De(Guion& g) {
+    return std::make_unique<Ventana>(g.sesion.trabajo, g.entorno, nullptr);
+}
+
 } // namespace
 
 const std::vector<DialogoProbado>& Dialogos() {
@@ -160,6 +170,10 @@ const std::vector<DialogoProbado>& Dialogos() {
         {"frmMultiEscrutinioMultiFichero", MultiFichero},
         {"frmAlgebra", Algebra},
         {"frmAlazar", [](Guion& g) { return std::make_unique<frmAlazar>(g.sesion.trabajo, nullptr); }},
+        {"frmGeneradorApuestas", De<frmGeneradorApuestas>},
+        {"frmGeneradorApuestasXPorcentaje", De<frmGeneradorApuestasXPorcentaje>},
+        {"frmSistemasPropios", De<frmSistemasPropios>},
+        {"frmVisualizar", De<frmVisualizar>},
         {"frmAcercaDe", [](Guion&) { return std::make_unique<frmAcercaDe>(nullptr); }},
     };
     return dialogos;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "Ficheros.h"
 #include "modGeneral.h"
 #include "modImportarASCII.h"
 
@@ -47,6 +48,8 @@ bool LogicaVisualizar::Cargar(const std::string& ruta) {
     }
     lblApuestas = FormatoMiles(leidas, entorno.SeparadorMiles);
     Navegable = true;
+    txtBoletoDESDE = "1";
+    txtBoletoHASTA = std::to_string(std::min(Boletos(), BoletosPorImpresion));
     Mostrar(1);
     return true;
 }
@@ -91,4 +94,35 @@ bool LogicaVisualizar::IrABoleto() {
 void LogicaVisualizar::CambiarReintegros(bool activo) {
     chkReintegros = activo;
     if (!activo) lblReintegro.fill("");
+}
+
+std::vector<ApuestaDeBoleto> LogicaVisualizar::ApuestasDeBoleto(int32_t t) const {
+    std::vector<ApuestaDeBoleto> apuestas;
+    const int64_t primera = int64_t{t - 1} * ApuestasPorBoleto() + 1;
+    for (int32_t r = 0; t >= 1 && r < FilasDeBoleto(t); ++r) {
+        ApuestaDeBoleto apuesta;
+        for (size_t c = 0; c < 6; ++c) apuesta.numeros[c] = ApuestasVisor(static_cast<int>(c) + 1, primera + r);
+        if (chkReintegros) apuesta.digito = ApuestasVisor(7, primera + r);
+        apuestas.push_back(apuesta);
+    }
+    return apuestas;
+}
+
+bool LogicaVisualizar::BoletosParaImprimir(int32_t& desde, int32_t& hasta) {
+    if (!Navegable) return Fallo(entorno, "AVISO: No hay ningún fichero abierto");
+    if (!LeerEntero(Recortar(txtBoletoDESDE), desde) || !LeerEntero(Recortar(txtBoletoHASTA), hasta) || desde < 1 ||
+        hasta > Boletos() || desde > hasta)
+        return Fallo(entorno, "ERROR: Los boletos que se imprimen van del 1 al " + std::to_string(Boletos()));
+    if (hasta - desde >= BoletosPorImpresion)
+        return Fallo(entorno, "ERROR: Se pueden imprimir " + std::to_string(BoletosPorImpresion) +
+                                  " boletos cada vez como máximo");
+    return true;
+}
+
+std::string LogicaVisualizar::PedirRutaPdf() {
+    const std::string nombre = NombreSinCarpeta(txtFicheroASCII);
+    const std::string ruta = entorno.PedirGuardar({"Exportar boletos",
+                                                   {{"Documento PDF (*.PDF)", "*.PDF"}},
+                                                   RutaConExtension(nombre.empty() ? "boletos" : nombre, ".pdf")});
+    return Recortar(ruta).empty() ? std::string() : RutaConExtension(ruta, ".pdf");
 }

@@ -3,21 +3,31 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "Entorno.h"
 #include "EstadoTrabajo.h"
+
+/// One bet as it is filled in on a ticket; the digit is -1 where it does not show.
+struct ApuestaDeBoleto {
+    std::array<uint8_t, 6> numeros{};
+    int digito = -1;
+};
 
 struct LogicaVisualizar {
     LogicaVisualizar(EstadoTrabajo& estado, Entorno& mundo);
 
     /// Most rows of a ticket, of any game.
     static constexpr int FilasMaximas = 8;
+    /// Most tickets that are printed at a time: 500 pages.
+    static constexpr int32_t BoletosPorImpresion = 1000;
 
     // What the window shows.
     std::string txtFicheroASCII; ///< full path of the file
     std::string lblApuestas = "0";
     bool chkReintegros;
     std::string txtIrboleto;
+    std::string txtBoletoDESDE = "1", txtBoletoHASTA = "1"; ///< tickets to print
     /// Row r from 0, column c from 1 to 6 at r x 6 + c - 1; empty where the ticket has no bet.
     std::array<std::string, size_t{6} * FilasMaximas> lblColumna;
     std::array<std::string, FilasMaximas> lblReintegro;
@@ -45,6 +55,13 @@ struct LogicaVisualizar {
     /// Enter in `txtIrboleto`.
     bool IrABoleto();
     void CambiarReintegros(bool activo);
+
+    /// The bets of ticket t, from 1, with their digits while `chkReintegros` is set.
+    std::vector<ApuestaDeBoleto> ApuestasDeBoleto(int32_t t) const;
+    /// The tickets asked for in the two fields; false after a box when they are none.
+    bool BoletosParaImprimir(int32_t& desde, int32_t& hasta);
+    /// Asks for the file of an export; the answer ends in ".pdf". Empty when cancelled.
+    std::string PedirRutaPdf();
 
     EstadoTrabajo& trabajo;
     Entorno& entorno;

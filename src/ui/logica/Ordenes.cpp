@@ -54,6 +54,10 @@ bool OrdenDisponible(Orden orden) {
     case Orden::MultiEscrutinioMultiFichero:
     case Orden::MultiEscrutinioEstadistico:
     case Orden::Algebra:
+    case Orden::VisualizarArchivo:
+    case Orden::SistemasPropios:
+    case Orden::GeneradorAleatoriasXNumero:
+    case Orden::GeneradorAleatoriasXPorcentaje:
     case Orden::AyudaOnline:
     case Orden::AcercaDe:
     case Orden::ValidarOnLine:

@@ -1,0 +1,52 @@
+#include "PieHerramienta.h"
+
+#include "MarcoFiltro.h"
+#include "TextoQt.h"
+
+QVBoxLayout* EmpezarHerramienta(QDialog& dialogo, std::string_view nombre, std::string_view titulo,
+                                std::string_view cabecera, std::string_view frase) {
+    dialogo.setObjectName(Q(nombre));
+    dialogo.setWindowTitle(Q(titulo));
+    auto* caja = new QVBoxLayout(&dialogo);
+    caja->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
+    caja->setSpacing(Paso);
+    PonerCabecera(*caja, cabecera, frase);
+    return caja;
+}
+
+QPushButton* TerminarHerramienta(QDialog& dialogo, QVBoxLayout& caja, QPushButton& principal) {
+    auto* pie = new QHBoxLayout;
+    pie->setContentsMargins(0, Paso, 0, 0);
+    principal.setDefault(true);
+    pie->addWidget(&principal);
+    pie->addStretch();
+    QPushButton* imgVolver = CrearBoton("imgVolver", "Cerrar", "Cerrar la ventana", [&dialogo] { dialogo.reject(); });
+    pie->addWidget(imgVolver);
+    caja.addLayout(pie);
+    return imgVolver;
+}
+
+QLabel* CrearCuenta(QGridLayout& rejilla, int fila, std::string_view titulo, std::string_view nombre) {
+    auto* cuenta = new QLabel;
+    cuenta->setObjectName(Q(nombre));
+    cuenta->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    QFont letra = cuenta->font();
+    letra.setBold(true);
+    cuenta->setFont(letra);
+    rejilla.addWidget(new QLabel(Q(titulo)), fila, 0);
+    rejilla.addWidget(cuenta, fila, 1);
+    return cuenta;
+}
+
+void PonerAzar(QGridLayout& rejilla, int maximo, int& cuantos, std::function<void()> alPulsar) {
+    auto* lista = new QComboBox;
+    lista->setObjectName(Q("cboNumeros"));
+    lista->setAccessibleName(Q("Cantidad de números"));
+    lista->setToolTip(Q("Cuántos números se marcan al azar"));
+    for (int n = 1; n <= maximo; ++n) lista->addItem(QString::number(n));
+    lista->setCurrentIndex(cuantos - 1);
+    QObject::connect(lista, &QComboBox::currentIndexChanged, lista, [&cuantos](int i) { cuantos = i + 1; });
+    rejilla.addWidget(lista, 0, 0);
+    rejilla.addWidget(
+        CrearBoton("cmdAlazar", "Azar", "Marca esa cantidad de números, elegidos al azar", std::move(alPulsar)), 0, 1);
+}

@@ -5,6 +5,7 @@
 #include "LogicaMultiEscrutinioEstadistico.h"
 #include "Ordenes.h"
 #include "Parada.h"
+#include "RespuestaGuardada.h"
 #include "Sesiones.h"
 
 namespace {

@@ -1,9 +1,9 @@
 // premios: what a system won in the draw of a date.
 #include "Argumentos.h"
 #include "ArgumentosSorteo.h"
-#include "Ficheros.h"
 #include "LogicaCalculadoraPremios.h"
 #include "Ordenes.h"
+#include "RespuestaGuardada.h"
 #include "Sesiones.h"
 
 namespace {
@@ -11,9 +11,6 @@ namespace {
 struct ArgumentosPremios : ArgumentosSorteo {
     std::string Dia, Mes, Anio, Sorteos;
 };
-
-// Some ten times the whole history of a game.
-constexpr int64_t BytesMaximosRespuesta = int64_t{64} << 20;
 
 void OpcionFecha(CLI::App* orden, ArgumentosPremios& argumentos) {
     const auto leer = [&argumentos](const CLI::results_t& valores) {
@@ -37,12 +34,7 @@ bool Premios(Lote& lote, const ArgumentosPremios& argumentos) {
     escrutar.chkReintegros = false;
     if (!escrutar.imgCalculadoraPremios() || !CargarYMarcar(escrutar, argumentos) || !escrutar.EscrutarSistema())
         return false;
-    if (!argumentos.Sorteos.empty()) {
-        lote.entorno.Servicio = "fichero";
-        lote.entorno.PedirHttp = [&argumentos](const std::string&, std::string& cuerpo, std::string& fallo) {
-            return LeerFichero(argumentos.Sorteos, BytesMaximosRespuesta, cuerpo, fallo);
-        };
-    }
+    if (!argumentos.Sorteos.empty()) ResponderConFichero(lote.entorno, argumentos.Sorteos);
     LogicaCalculadoraPremios calculadora(escrutar);
     calculadora.txtDia = argumentos.Dia;
     calculadora.txtMes = argumentos.Mes;

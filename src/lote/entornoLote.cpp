@@ -5,7 +5,6 @@
 #include "ClienteHttp.h"
 #include "ConsultarServicioSorteos.h"
 #include "Parada.h"
-#include "Ficheros.h"
 
 namespace {
 
@@ -14,9 +13,6 @@ std::string TextoProgreso(const EstadoTrabajo& trabajo) {
         return fmt::format("Grabando {:.0f} %", 100 * trabajo.picVentanaEspera.Fraccion);
     return trabajo.Contador.Progreso.empty() ? "Calculando" : trabajo.Contador.Progreso;
 }
-
-// The whole history of a game is some megabytes.
-constexpr int64_t BytesRespuesta = int64_t{1} << 28;
 
 } // namespace
 
@@ -43,11 +39,4 @@ Entorno CrearEntornoLote(const OpcionesLote& opciones, const Sesion& sesion, Con
 
 std::function<std::string(const PeticionFichero&)> Responder(const std::string& ruta) {
     return [ruta](const PeticionFichero&) { return ruta; };
-}
-
-void ResponderConFichero(Entorno& entorno, const std::string& ruta) {
-    if (entorno.Servicio.empty()) entorno.Servicio = "file:"; // never asked
-    entorno.PedirHttp = [ruta](const std::string&, std::string& cuerpo, std::string& fallo) {
-        return LeerFichero(ruta, BytesRespuesta, cuerpo, fallo);
-    };
 }

@@ -18,6 +18,3 @@ Entorno CrearEntornoLote(const OpcionesLote& opciones, const Sesion& sesion, Con
 
 /// A chooser that answers always this path.
 std::function<std::string(const PeticionFichero&)> Responder(const std::string& ruta);
-
-/// Makes this file the answer of every request to the draw-data service.
-void ResponderConFichero(Entorno& entorno, const std::string& ruta);

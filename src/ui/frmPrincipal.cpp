@@ -183,7 +183,7 @@ void frmPrincipal::Pintar() {
     setWindowTitle(Q(trabajo.Titulo).replace(Q("[*]"), Q("[*][*]")) + Q("[*]"));
     setWindowModified(!trabajo.CombinacionGuardada);
     menuBar()->setEnabled(!bloqueada);
-    PintarBarraOrdenes(barra, [this](Orden orden) { return logica.Habilitada(orden); });
+    PintarBarraOrdenes(barra, !logica.Bloqueada());
     PintarJuego();
     PintarBoleto();
     PintarVistaFiltros(lstFiltros, logica.sesion, logica.entorno.SeparadorMiles, !bloqueada);
@@ -240,8 +240,7 @@ void frmPrincipal::Hacer(Orden orden) {
 }
 
 void frmPrincipal::AbrirFila(int k) {
-    if (!logica.Bloqueada() && !AbrirDialogoFiltro(k, logica.sesion, logica.entorno, this))
-        Fallo(logica.entorno, "AVISO: Esta condición todavía no está disponible");
+    if (!logica.Bloqueada()) AbrirDialogoFiltro(k, logica.sesion, logica.entorno, this);
     Pintar();
 }
 

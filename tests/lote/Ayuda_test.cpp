@@ -26,7 +26,7 @@ INSTANTIATE_TEST_SUITE_P(Ordenes, Ayuda,
                          testing::Values("programa", "calcular", "base", "ver", "resumen", "eliminadas", "analisis",
                                          "garantias", "minigarantias", "escrutar", "multiescrutinio", "multifichero",
                                          "premios", "estadisticas", "actualizar", "algebra", "generar-numeros",
-                                         "generar-porcentajes", "sistema-propio", "rentabilidad"),
+                                         "generar-porcentajes", "sistema-propio"),
                          [](const auto& caso) {
                              std::string nombre = caso.param;
                              std::replace(nombre.begin(), nombre.end(), '-', '_');

@@ -18,7 +18,7 @@ constexpr int64_t Tanda = (1 << BitsContador) - 1;
 
 // The seven counters of a batch share one word. Compiled for each processor because of the one
 // instruction that counts bits.
-void Contar(Mascara candidata, const Mascara* sistema, int64_t apuestas, CuentaAciertos& cuenta) {
+void Contar(Mascara candidata, const Mascara* sistema, int64_t apuestas, CuentasPorAciertos& cuenta) {
     for (int64_t inicio = 0; inicio < apuestas; inicio += Tanda) {
         const int64_t fin = std::min(apuestas, inicio + Tanda);
         uint64_t contadores = 0;
@@ -40,7 +40,7 @@ namespace {
 HWY_EXPORT(Contar);
 } // namespace
 
-void ContarPorMascara(Mascara candidata, const Mascara* sistema, int64_t apuestas, CuentaAciertos& cuenta) {
+void ContarPorMascara(Mascara candidata, const Mascara* sistema, int64_t apuestas, CuentasPorAciertos& cuenta) {
     HWY_DYNAMIC_DISPATCH(Contar)(candidata, sistema, apuestas, cuenta);
 }
 #endif

@@ -7,4 +7,4 @@
 #include "TablaGarantias.h"
 
 /// Adds the bets to `cuenta` by their hits on the candidate.
-void ContarPorMascara(Mascara candidata, const Mascara* sistema, int64_t apuestas, CuentaAciertos& cuenta);
+void ContarPorMascara(Mascara candidata, const Mascara* sistema, int64_t apuestas, CuentasPorAciertos& cuenta);

@@ -41,7 +41,7 @@ class PorMascaras {
     bool Medir(Mascara candidata) {
         const double fraccion = static_cast<double>(++hechas_) / total_;
         if (!cadencia_.Hasta(hechas_, fraccion)) return false;
-        CuentaAciertos cuenta{};
+        CuentasPorAciertos cuenta{};
         const auto apuestas = static_cast<int64_t>(sistema_.size());
         for (int64_t i = 0; i < apuestas; i += ApuestasPorTurno) {
             const int64_t cuantas = std::min(ApuestasPorTurno, apuestas - i);
@@ -106,14 +106,14 @@ bool ContarSubconjuntos(const PedidoMedida& pedido, const OrdenSubconjuntos& ord
 // Exact counts from how many bets hold each subset of the candidate: a bet with h hits stands C(h, m)
 // times in the sum over subsets of m numbers.
 template <class C>
-CuentaAciertos CuentaPorSumas(const OrdenSubconjuntos& orden, PlanosSubconjunto<C>& bets, Mascara candidata) {
+CuentasPorAciertos CuentaPorSumas(const OrdenSubconjuntos& orden, PlanosSubconjunto<C>& bets, Mascara candidata) {
     static constexpr std::array<std::array<int, 7>, 7> binomio{
         {{1}, {1, 1}, {1, 2, 1}, {1, 3, 3, 1}, {1, 4, 6, 4, 1}, {1, 5, 10, 10, 5, 1}, {1, 6, 15, 20, 15, 6, 1}}};
     std::array<int64_t, 7> suma{};
     orden.CadaSubconjunto(candidata, 6, [&](int m, int32_t rango) {
         suma[static_cast<size_t>(m)] += static_cast<int64_t>(bets.Plano(m)[rango]);
     });
-    CuentaAciertos cuenta{};
+    CuentasPorAciertos cuenta{};
     for (size_t h = 7; h-- > 0;) {
         for (size_t mayor = h + 1; mayor < 7; ++mayor) suma[h] -= binomio[mayor][h] * int64_t{cuenta[mayor]};
         cuenta[h] = static_cast<int32_t>(suma[h]);

@@ -60,16 +60,10 @@ constexpr std::array<Fabrica, NFilas> Fabricas = [] {
 
 } // namespace
 
-bool HayDialogoFiltro(int k) {
-    return k >= 0 && k < NFilas && Fabricas[static_cast<size_t>(k)] != nullptr;
-}
-
 std::unique_ptr<QDialog> CrearDialogoFiltro(int k, Sesion& sesion, Entorno& entorno, QWidget* padre) {
-    return HayDialogoFiltro(k) ? Fabricas[static_cast<size_t>(k)](sesion, entorno, padre) : nullptr;
+    return Fabricas[static_cast<size_t>(k)](sesion, entorno, padre);
 }
 
-bool AbrirDialogoFiltro(int k, Sesion& sesion, Entorno& entorno, QWidget* padre) {
-    if (!HayDialogoFiltro(k)) return false;
+void AbrirDialogoFiltro(int k, Sesion& sesion, Entorno& entorno, QWidget* padre) {
     AbrirFila(sesion, entorno, k, [&] { MostrarModal(*CrearDialogoFiltro(k, sesion, entorno, padre)); });
-    return true;
 }

@@ -24,7 +24,7 @@ constexpr const char* PreguntaSalir = "NO HA GUARDADO LA COMBINACION ACTUAL EN X
 } // namespace
 
 void LogicaPrincipal::Hacer(Orden orden) {
-    if (!Habilitada(orden)) return;
+    if (Bloqueada()) return;
     switch (orden) {
     case Orden::Nuevo:
         return Nuevo();
@@ -59,7 +59,7 @@ void LogicaPrincipal::Hacer(Orden orden) {
 }
 
 bool LogicaPrincipal::PuedeAbrir(Orden orden) {
-    if (!Habilitada(orden)) return false;
+    if (Bloqueada()) return false;
     if ((orden == Orden::Garantias || orden == Orden::Analisis) && sesion.trabajo.Contador.Reducidas == 0)
         return Fallo(entorno, "ERROR: No hay apuestas generadas");
     return true;
@@ -172,10 +172,6 @@ std::string LogicaPrincipal::Copiar() const {
 
 void LogicaPrincipal::AlternarFila(int k) {
     if (!Bloqueada() && k >= 0 && k < NFilas) ::AlternarFila(sesion, k);
-}
-
-bool LogicaPrincipal::Habilitada(Orden orden) const {
-    return !Bloqueada() && OrdenDisponible(orden);
 }
 
 bool LogicaPrincipal::BoletoHabilitado() const {

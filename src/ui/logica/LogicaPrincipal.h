@@ -43,8 +43,7 @@ struct LogicaPrincipal {
     /// The right button on a row of the list: the saved flag stays.
     void AlternarFila(int k);
 
-    // What is enabled, and what is shown beside the fields of the state.
-    bool Habilitada(Orden orden) const;
+    // What is shown beside the fields of the state.
     bool Bloqueada() const { return sesion.trabajo.FormularioBloqueado || sesion.trabajo.EstadoCalculando; }
     bool BoletoHabilitado() const;
     bool HayMarcas() const;

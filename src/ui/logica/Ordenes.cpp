@@ -38,34 +38,3 @@ const std::array<EntradaBarra, 7> lblMenu{{
     {Orden::Analisis, "Análisis", "Análisis de las apuestas", "analisis", "F6"},
     {Orden::CalculoDefinitivo, "Cálculo Definitivo", "Cálculo con grabación de apuestas", "definitivo", "F7"},
 }};
-
-bool OrdenDisponible(Orden orden) {
-    switch (orden) {
-    case Orden::Nuevo:
-    case Orden::Abrir:
-    case Orden::Guardar:
-    case Orden::Salir:
-    case Orden::VerResumenFiltros:
-    case Orden::InformeApuestasEliminadas:
-    case Orden::Estadisticas:
-    case Orden::VerApuestas:
-    case Orden::Garantias:
-    case Orden::EscrutinioApuestas:
-    case Orden::MultiEscrutinioMultiFichero:
-    case Orden::MultiEscrutinioEstadistico:
-    case Orden::Algebra:
-    case Orden::VisualizarArchivo:
-    case Orden::SistemasPropios:
-    case Orden::GeneradorAleatoriasXNumero:
-    case Orden::GeneradorAleatoriasXPorcentaje:
-    case Orden::AyudaOnline:
-    case Orden::AcercaDe:
-    case Orden::ValidarOnLine:
-    case Orden::CalculoPrueba:
-    case Orden::Analisis:
-    case Orden::CalculoDefinitivo:
-        return true;
-    default:
-        return false;
-    }
-}

@@ -51,6 +51,3 @@ struct EntradaBarra {
 extern const std::array<std::string_view, 4> NombresMenus;
 extern const std::array<EntradaMenu, 19> EntradasMenu;
 extern const std::array<EntradaBarra, 7> lblMenu;
-
-/// Whether the command's tool is part of this version; the entries of the others stand disabled.
-bool OrdenDisponible(Orden orden);

@@ -19,9 +19,8 @@ void CrearMenus(QMainWindow* ventana, BarraOrdenes& barra, const std::function<v
             QAction* accion = menu->addAction(Q(entrada.Texto));
             accion->setObjectName(Q(entrada.nombre));
             accion->setShortcut(QKeySequence(Q(entrada.Atajo)));
-            if (!OrdenDisponible(entrada.orden)) accion->setToolTip(Q("Todavía no está disponible"));
             QObject::connect(accion, &QAction::triggered, ventana, [hacer, orden = entrada.orden] { hacer(orden); });
-            barra.menus.emplace_back(entrada.orden, accion);
+            barra.menus.push_back(accion);
         }
     }
 }
@@ -38,7 +37,7 @@ QToolButton* CrearBoton(QMainWindow* ventana, size_t indice, const std::function
     boton->setFocusPolicy(Qt::TabFocus);
     QString consejo = Q(entrada.Consejo);
     if (!entrada.Atajo.empty()) consejo += Q(" (") + Q(entrada.Atajo) + Q(")");
-    boton->setToolTip(OrdenDisponible(entrada.orden) ? consejo : consejo + Q(": todavía no está disponible"));
+    boton->setToolTip(consejo);
     QObject::connect(boton, &QToolButton::clicked, ventana, [hacer, orden = entrada.orden] { hacer(orden); });
     if (!entrada.Atajo.empty()) {
         // The button's own shortcut would wait to show it pressed.
@@ -72,9 +71,9 @@ BarraOrdenes CrearBarraOrdenes(QMainWindow* ventana, std::function<void(Orden)> 
     return barra;
 }
 
-void PintarBarraOrdenes(const BarraOrdenes& barra, const std::function<bool(Orden)>& habilitada) {
-    for (const auto& [orden, accion] : barra.menus) accion->setEnabled(habilitada(orden));
-    for (size_t i = 0; i < barra.botones.size(); ++i) barra.botones[i]->setEnabled(habilitada(lblMenu[i].orden));
+void PintarBarraOrdenes(const BarraOrdenes& barra, bool habilitada) {
+    for (QAction* accion : barra.menus) accion->setEnabled(habilitada);
+    for (QToolButton* boton : barra.botones) boton->setEnabled(habilitada);
 }
 
 void ColorearBarraOrdenes(const BarraOrdenes& barra, const QPalette& paleta) {

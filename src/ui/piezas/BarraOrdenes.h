@@ -7,21 +7,20 @@
 
 #include <array>
 #include <functional>
-#include <utility>
 #include <vector>
 
 #include "Ordenes.h"
 
 struct BarraOrdenes {
-    std::vector<std::pair<Orden, QAction*>> menus;
+    std::vector<QAction*> menus;
     std::array<QToolButton*, lblMenu.size()> botones{};
 };
 
 /// Adds both to the window; every entry calls `hacer` with its command.
 BarraOrdenes CrearBarraOrdenes(QMainWindow* ventana, std::function<void(Orden)> hacer);
 
-/// Enables the entries for which `habilitada` says so.
-void PintarBarraOrdenes(const BarraOrdenes& barra, const std::function<bool(Orden)>& habilitada);
+/// Enables or disables all entries.
+void PintarBarraOrdenes(const BarraOrdenes& barra, bool habilitada);
 
 /// Draws the icons anew in the palette's colours.
 void ColorearBarraOrdenes(const BarraOrdenes& barra, const QPalette& paleta);

@@ -225,7 +225,6 @@ TEST(LogicaPrincipal, BloqueadaNoHaceNada) {
     v.logica.CambiarTipoReintegro(Secuenciales);
     v.logica.AlternarFila(0);
     for (const EntradaMenu& entrada : EntradasMenu) {
-        EXPECT_FALSE(v.logica.Habilitada(entrada.orden));
         v.logica.Hacer(entrada.orden);
         EXPECT_FALSE(v.logica.PuedeAbrir(entrada.orden));
     }

@@ -40,7 +40,7 @@ bool Multiescrutinio(Lote& lote, const ArgumentosMulti& argumentos) {
 }
 
 std::string NoEurodreams(const std::string& juego) {
-    return juego == Juegos[EURODREAMS].Nombre ? "--juego: se espera PRIMITIVA o BONOLOTO, no " + juego : "";
+    return juego == Juegos[EURODREAMS].Nombre ? "se espera PRIMITIVA o BONOLOTO, no " + juego : "";
 }
 
 } // namespace

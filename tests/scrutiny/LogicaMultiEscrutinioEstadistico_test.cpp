@@ -20,10 +20,10 @@ constexpr const char* DosSorteos = R"(<r><PRIMITIVA><COMBINACIONES>
 <COMBINACION numeros="01,02,03,04,05,06,07,8" anio="2010" sorteo="4" dia="J"/>
 <COMBINACION numeros="11,12,13,14,15,16,17," anio="2011" sorteo="300" dia="s"/>
 </COMBINACIONES><SORTEOS>
-<SORTEO anio="2010" sorteo="4" dia="J" fecha="" recaudacion="" bote=""><ESCRUTINIO><CAT6R premio="9"/>
+<SORTEO anio="2010" sorteo="4" dia="J" fecha="" recaudacion="0" bote="0"><ESCRUTINIO><CAT6R premio="9"/>
 <CAT6 premio="1.000.000,25" acertantes=""/><CAT5C premio="2000,10" acertantes="1"/><CAT5 premio="70.07" acertantes="1"/>
 <CAT4 premio="" acertantes="1"/><CAT3 premio="8" acertantes="1"/></ESCRUTINIO></SORTEO>
-<SORTEO anio="2011" sorteo="300" dia="S" fecha="" recaudacion="" bote=""><ESCRUTINIO><CAT5 premio="80,08" acertantes="1"/>
+<SORTEO anio="2011" sorteo="300" dia="S" fecha="" recaudacion="0" bote="0"><ESCRUTINIO><CAT5 premio="80,08" acertantes="1"/>
 </ESCRUTINIO></SORTEO></SORTEOS></PRIMITIVA></r>)";
 
 constexpr const char* SeisApuestas = "010203040506\r\n010203040507\r\n010203040508\r\n010203040809\r\n010203080910\r\n"
@@ -319,7 +319,7 @@ TEST_F(MultiEstadistico, SumasDeMasDe32Bits) {
         const std::string momento = fmt::format("anio=\"2000\" sorteo=\"{}\" dia=\"L\"", i);
         muchos += "<COMBINACION numeros=\"1,2,3,4,5,6,7,0\" " + momento + "/>";
         premios += "<SORTEO " + momento +
-                   " fecha=\"\" recaudacion=\"\" bote=\"\"><ESCRUTINIO><CAT6 premio=\"99.999.999,99\" "
+                   " fecha=\"\" recaudacion=\"0\" bote=\"0\"><ESCRUTINIO><CAT6 premio=\"99.999.999,99\" "
                    "acertantes=\"1\"/></ESCRUTINIO></SORTEO>";
     }
     Responder(muchos + "</COMBINACIONES><SORTEOS>" + premios + "</SORTEOS></PRIMITIVA></r>");

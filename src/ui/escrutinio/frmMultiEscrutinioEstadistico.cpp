@@ -17,7 +17,7 @@ struct Rotulo {
 };
 constexpr std::array<Rotulo, 7> Rotulos{
     {{"Nº", 0}, {"Año", 8}, {"Sorteo", 12}, {"Día", 19}, {"Números", 23}, {"6-5C-5-4-3", 46}, {"Importe", 60}}};
-constexpr int ColumnasVisibles = 78;
+constexpr int ColumnasVisibles = 78, FilasVisibles = 26;
 
 QWidget* CrearRotulos(const QPlainTextEdit& texto) {
     auto* fila = new QWidget;
@@ -151,6 +151,7 @@ void frmMultiEscrutinioEstadistico::CrearResultados(QBoxLayout& donde) {
     donde.setStretchFactor(rejilla->parentWidget(), 1);
     txtDatos = CrearTextoFijo("txtDatos", "Resultado del escrutinio, sorteo a sorteo");
     txtDatos->setMinimumWidth(txtDatos->fontMetrics().horizontalAdvance(QLatin1Char('0')) * ColumnasVisibles);
+    txtDatos->setMinimumHeight(FilasVisibles * txtDatos->fontMetrics().lineSpacing());
     rejilla->addWidget(CrearRotulos(*txtDatos), 0, 0);
     rejilla->addWidget(txtDatos, 1, 0);
     rejilla->setVerticalSpacing(0);

@@ -9,7 +9,7 @@
 namespace {
 
 constexpr int ColumnasResumen = 110; // and some room for the bar at the side
-constexpr int FilasFicheros = 5, FilasInforme = 8;
+constexpr int FilasFicheros = 6, FilasInforme = 12;
 
 } // namespace
 
@@ -62,7 +62,7 @@ void frmMultiEscrutinioMultiFichero::CrearFicheros(QBoxLayout& donde) {
     lstFicheros->setAlternatingRowColors(true);
     lstFicheros->setUniformItemSizes(true);
     lstFicheros->setTextElideMode(Qt::ElideMiddle);
-    lstFicheros->setMinimumHeight(FilasFicheros * (lstFicheros->fontMetrics().height() + 4));
+    lstFicheros->setFixedHeight(FilasFicheros * (lstFicheros->fontMetrics().height() + 4));
     connect(lstFicheros, &QListWidget::currentRowChanged, this, [this](int fila) { logica.Seleccionado = fila; });
     const auto boton = [this](const char* nombre, const char* texto, const char* ayuda, auto accion) {
         return CrearBoton(nombre, texto, ayuda, [this, accion] { Hacer([&] { (logica.*accion)(); }); });
@@ -97,6 +97,7 @@ void frmMultiEscrutinioMultiFichero::CrearResultados(QBoxLayout& donde) {
     lblImportando = CrearCifra("lblImportando", "Apuestas importadas", "13.983.816");
     txtInforme = CrearTextoFijo("txtInforme", "Resultado del escrutinio, fichero a fichero");
     txtInforme->setMinimumWidth(txtInforme->fontMetrics().horizontalAdvance(QLatin1Char('0')) * ColumnasResumen);
+    txtInforme->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // its own wish is too tall
     txtInforme->setMinimumHeight(FilasInforme * txtInforme->fontMetrics().lineSpacing());
     rejilla->addWidget(chkTipoListadoPremios, 0, 0);
     rejilla->addWidget(lblEstado, 0, 1);

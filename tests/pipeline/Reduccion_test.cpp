@@ -119,7 +119,7 @@ void Comparar(ReduccionLiteral caso, bool importada = false) {
 
 // Sizes that the literal steps end in a moment.
 int MayorBase(int tipo) {
-    return tipo == 1 ? 14 : tipo == 2 ? 12 : 20;
+    return tipo == 1 ? 14 : tipo == 2 ? 12 : 16;
 }
 
 } // namespace

@@ -14,6 +14,7 @@
 #include "Boleto.h"
 #include "CalcularSistema.h"
 #include "Guion.h"
+#include "Pintores.h"
 #include "Ventanas.h"
 #include "entornoQt.h"
 #include "frmGarantiasTOTAL.h"
@@ -143,6 +144,7 @@ TEST(frmGarantiasTOTAL, MientrasCalculaSoloViveDetener) {
     for (int i = 1; i <= 300; ++i)
         for (int r = 1; r <= 6; ++r) trabajo.ApuestasReducidas(r, i) = static_cast<uint8_t>(r * 8 - i % (r + 2));
     frmGarantiasTOTAL ventana(guion.sesion, guion.entorno, nullptr);
+    const Pintor pintor([&ventana] { ventana.Pintar(); });
     ventana.show();
     QApplication::processEvents();
     bool parada = false;

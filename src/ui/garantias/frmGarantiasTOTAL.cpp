@@ -60,6 +60,7 @@ void frmGarantiasTOTAL::CrearOpciones(QVBoxLayout& caja) {
     auto* rejilla = new QGridLayout(picOpciones);
     rejilla->setSpacing(Paso);
     for (int i = 0; i < 3; ++i) {
+        if (i == 1) CrearAciertos(*rejilla); // the next one on the way of the Tab key
         QRadioButton*& opcion = optTipoGarantias[static_cast<size_t>(i)];
         opcion = new QRadioButton(Q(logica.lblTitulo[static_cast<size_t>(i)]));
         opcion->setObjectName(NombreIndexado("optTipoGarantias", i));
@@ -68,6 +69,18 @@ void frmGarantiasTOTAL::CrearOpciones(QVBoxLayout& caja) {
         rejilla->addWidget(opcion, i, 0);
         connect(opcion, &QRadioButton::clicked, this, [this, i] { Hacer([this, i] { logica.CambiarTipo(i); }); });
     }
+    lblTituloApuestas = new QLabel;
+    lblTituloApuestas->setObjectName(Q("lblTituloApuestas"));
+    QFont letra = lblTituloApuestas->font();
+    letra.setBold(true);
+    letra.setPointSizeF(letra.pointSizeF() * 1.2);
+    lblTituloApuestas->setFont(letra);
+    rejilla->addWidget(lblTituloApuestas, 0, 3, Qt::AlignRight);
+    rejilla->setColumnStretch(2, 1);
+    caja.addWidget(picOpciones);
+}
+
+void frmGarantiasTOTAL::CrearAciertos(QGridLayout& rejilla) {
     cboTipoGarantias = new QComboBox;
     cboTipoGarantias->setObjectName(Q("cboTipoGarantias"));
     cboTipoGarantias->setAccessibleName(Q("Números del sorteo que se aciertan en la base"));
@@ -79,16 +92,7 @@ void frmGarantiasTOTAL::CrearOpciones(QVBoxLayout& caja) {
     cboTipoGarantias->setSizePolicy(queda);
     connect(cboTipoGarantias, &QComboBox::activated, this,
             [this](int k) { Hacer([this, k] { logica.CambiarAciertos(k); }); });
-    rejilla->addWidget(cboTipoGarantias, 0, 1);
-    lblTituloApuestas = new QLabel;
-    lblTituloApuestas->setObjectName(Q("lblTituloApuestas"));
-    QFont letra = lblTituloApuestas->font();
-    letra.setBold(true);
-    letra.setPointSizeF(letra.pointSizeF() * 1.2);
-    lblTituloApuestas->setFont(letra);
-    rejilla->addWidget(lblTituloApuestas, 0, 3, Qt::AlignRight);
-    rejilla->setColumnStretch(2, 1);
-    caja.addWidget(picOpciones);
+    rejilla.addWidget(cboTipoGarantias, 0, 1);
 }
 
 void frmGarantiasTOTAL::CrearOrdenes(QVBoxLayout& caja) {

@@ -17,6 +17,7 @@
 
 #include "LogicaGarantias.h"
 
+class QGridLayout;
 class QVBoxLayout;
 
 class frmGarantiasTOTAL final : public QDialog {
@@ -31,6 +32,7 @@ class frmGarantiasTOTAL final : public QDialog {
 
   private:
     void CrearOpciones(QVBoxLayout& caja);
+    void CrearAciertos(QGridLayout& rejilla);
     void CrearOrdenes(QVBoxLayout& caja);
     void CrearAvance(QVBoxLayout& caja);
     QWidget* CrearResultados();

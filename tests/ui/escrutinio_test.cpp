@@ -49,7 +49,7 @@ struct Escrutinio : Guion {
 };
 
 void Pulsar(const QWidget& ventana, const std::string& boton) {
-    QTest::mouseClick(Hijo<QAbstractButton>(ventana, boton), Qt::LeftButton);
+    Hijo<QAbstractButton>(ventana, boton)->click();
 }
 
 void Sortear(const QWidget& ventana, std::initializer_list<int> numeros) {
@@ -82,6 +82,9 @@ void RetratarInforme(const std::string& ruta, const std::string& nombre) {
 void Soltar(QWidget& ventana, const std::string& ruta) {
     QMimeData datos;
     datos.setUrls({QUrl::fromLocalFile(Q(ruta))});
+    QDragEnterEvent entrada(QPoint(50, 50), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&ventana, &entrada);
+    EXPECT_TRUE(entrada.isAccepted());
     QDropEvent evento(QPointF(50, 50), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&ventana, &evento);
     QApplication::processEvents();

@@ -16,11 +16,12 @@
 namespace {
 
 constexpr int PausaColores = 120; // ms
+constexpr int AltoFila = 24;      // of the results, px
 
 // The numbers of the base on the paper, whether marked or not.
 constexpr const char* EstiloBase = R"(
     QFrame#papel QToolButton[base="true"] { background: #f6d5ca; font-weight: bold; }
-    QFrame#papel QToolButton[base="true"]:checked { background: #c2102b; border: 3px double #ffffff; })";
+    QFrame#papel QToolButton[base="true"]:checked { background: #c2102b; border: 3px double #ffffff; border-radius: 4px; })";
 
 QLabel* CrearDato(std::string_view nombre, std::string_view accesible) {
     auto* dato = new QLabel;
@@ -56,6 +57,7 @@ void PintarEnBase(QComboBox& lista, bool enBase) {
 QTreeWidgetItem* CrearFila(const std::string& fila) {
     const QStringList celdas = Q(fila).split(QLatin1Char('\t'));
     auto* item = new QTreeWidgetItem;
+    item->setSizeHint(0, QSize(0, AltoFila));
     if (fila.find('-') != std::string::npos) {
         item->setFlags(Qt::NoItemFlags);
         return item;

@@ -50,9 +50,12 @@ uint64_t LeerTabla(const Tabla& boleto) {
     return suma;
 }
 
+// Each call of DisableTargets takes the place of the one before.
 void UsarProcesador(const std::string& nombre) {
+    int64_t otros = 0;
     for (const int64_t procesador : hwy::SupportedAndGeneratedTargets())
-        if (hwy::TargetName(procesador) != nombre) hwy::DisableTargets(procesador & ~HWY_SCALAR);
+        if (hwy::TargetName(procesador) != nombre) otros |= procesador;
+    hwy::DisableTargets(otros);
 }
 
 } // namespace

@@ -22,3 +22,4 @@ void DeclararPremios(CLI::App& programa, Lote& lote);
 void DeclararMultiescrutinio(CLI::App& programa, Lote& lote);
 void DeclararMultifichero(CLI::App& programa, Lote& lote);
 void DeclararAlgebra(CLI::App& programa, Lote& lote);
+void DeclararRentabilidad(CLI::App& programa, Lote& lote);

@@ -49,6 +49,7 @@ int main(int argc, char** argv) {
     DeclararMultiescrutinio(programa, lote);
     DeclararMultifichero(programa, lote);
     DeclararAlgebra(programa, lote);
+    DeclararRentabilidad(programa, lote);
     try {
         programa.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <new>
 
+#include "CuentaBytes.h"
 #include "Ficheros.h"
 #include "GuardarSistema.h"
 #include "Ocupado.h"
@@ -17,18 +18,12 @@ namespace {
 
 constexpr const char* Cabecera = "0"; // a result has no base
 
-// How often each number occurs in rows 1 to 6. Four counts take turns: equal neighbours would wait for
-// each other.
 std::array<int32_t, 50> ContarNumeros(const Tabla& apuestas) {
-    std::array<std::array<int32_t, 256>, 4> cuentas{};
-    for (int r = 1; r <= 6; ++r) {
-        const uint8_t* fila = apuestas.Fila(r);
-        for (int64_t i = 0; i < apuestas.Apuestas(); ++i) ++cuentas[static_cast<size_t>(i) % 4][fila[i]];
-    }
-    std::array<int32_t, 50> suma{};
-    for (size_t n = 1; n < suma.size(); ++n)
-        for (const auto& cuenta : cuentas) suma[n] += cuenta[n];
-    return suma;
+    CuentaBytes cuenta;
+    for (int r = 1; r <= 6; ++r) cuenta.Contar(apuestas.Fila(r), apuestas.Apuestas());
+    std::array<int32_t, 50> apariciones{};
+    for (size_t n = 1; n < apariciones.size(); ++n) apariciones[n] = cuenta.De(n);
+    return apariciones;
 }
 
 } // namespace

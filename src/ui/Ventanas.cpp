@@ -4,6 +4,7 @@
 #include "frmAcercaDe.h"
 #include "frmAlgebra.h"
 #include "frmAnalisis.h"
+#include "frmCoeficienteRentabilidad.h"
 #include "frmEscrutar.h"
 #include "frmEstadisticas.h"
 #include "frmGarantiasTOTAL.h"
@@ -73,6 +74,8 @@ bool AbrirVentana(Orden orden, Sesion& sesion, Entorno& entorno, QWidget* padre)
         return Mostrar<frmMultiEscrutinioMultiFichero>(sesion, entorno, padre);
     case Orden::Algebra:
         return Mostrar<frmAlgebra>(sesion, entorno, padre);
+    case Orden::CoeficienteRentabilidad:
+        return Mostrar<frmCoeficienteRentabilidad>(sesion, entorno, padre);
     case Orden::SistemasPropios:
         return Mostrar<frmSistemasPropios>(trabajo, entorno, padre);
     case Orden::GeneradorAleatoriasXNumero:

@@ -25,8 +25,8 @@ TEST_P(Ayuda, EsLaGuardada) {
 INSTANTIATE_TEST_SUITE_P(Ordenes, Ayuda,
                          testing::Values("programa", "calcular", "base", "ver", "resumen", "eliminadas", "analisis",
                                          "garantias", "minigarantias", "escrutar", "multiescrutinio", "multifichero",
-                                         "premios", "estadisticas", "actualizar", "algebra", "generar-numeros",
-                                         "generar-porcentajes", "sistema-propio"),
+                                         "premios", "estadisticas", "actualizar", "algebra", "rentabilidad",
+                                         "generar-numeros", "generar-porcentajes", "sistema-propio"),
                          [](const auto& caso) {
                              std::string nombre = caso.param;
                              std::replace(nombre.begin(), nombre.end(), '-', '_');

@@ -1,6 +1,7 @@
 #include "dialogos.h"
 
 #include <QAbstractButton>
+#include <QListWidget>
 
 #include "CalcularSistema.h"
 #include "DialogosFiltro.h"
@@ -13,6 +14,7 @@
 #include "frmAlgebra.h"
 #include "frmAnalisis.h"
 #include "frmCalculadoraPremios.h"
+#include "frmCoeficienteRentabilidad.h"
 #include "frmEscrutar.h"
 #include "frmEstadisticas.h"
 #include "frmGarantiasTOTAL.h"
@@ -122,6 +124,22 @@ std::unique_ptr<QDialog> Algebra(Guion& g) {
     return dialogo;
 }
 
+// Some bets with their coefficients, two of which are chosen.
+std::unique_ptr<QDialog> Rentabilidad(Guion& g) {
+    static const CarpetaTemporal carpeta;
+    std::string apuestas;
+    for (int a = 10; a < 40; ++a)
+        for (int b = a + 1; b < 46; ++b)
+            apuestas += "0" + std::to_string(1 + b % 9) + std::to_string(a) + std::to_string(b) + "464749\n";
+    EscribirTodo(carpeta.Ruta("peña del sábado.txt"), apuestas);
+    auto dialogo = std::make_unique<frmCoeficienteRentabilidad>(g.sesion, g.entorno, nullptr);
+    g.Ficheros = {carpeta.Ruta("peña del sábado.txt")};
+    Hijo<QAbstractButton>(*dialogo, "cmdDesdeFichero")->click();
+    Hijo<QAbstractButton>(*dialogo, "imgCalcular")->click();
+    for (const int i : {15, 16}) Hijo<QListWidget>(*dialogo, "lstCR")->item(i)->setCheckState(Qt::Checked);
+    return dialogo;
+}
+
 // A base, without which no number takes a mark.
 std::unique_ptr<QDialog> Valoraciones(Guion& g) {
     g.MarcarHasta(14);
@@ -169,6 +187,7 @@ const std::vector<DialogoProbado>& Dialogos() {
          [](Guion& g) { return std::make_unique<frmMultiEscrutinioEstadistico>(g.sesion, g.entorno, nullptr); }},
         {"frmMultiEscrutinioMultiFichero", MultiFichero},
         {"frmAlgebra", Algebra},
+        {"frmCoeficienteRentabilidad", Rentabilidad},
         {"frmAlazar", [](Guion& g) { return std::make_unique<frmAlazar>(g.sesion.trabajo, nullptr); }},
         {"frmGeneradorApuestas", De<frmGeneradorApuestas>},
         {"frmGeneradorApuestasXPorcentaje", De<frmGeneradorApuestasXPorcentaje>},

@@ -5,12 +5,9 @@
 #include <string>
 
 #include "Entorno.h"
-#include "FicheroPorcentajes.h"
 #include "LogicaMarco.h"
+#include "PorcentajesCR.h"
 #include "TablaFiltros.h"
-
-/// One of the two tables of the dialog: 49 decimal fields.
-enum class TablaCR { Apostados, Reales };
 
 /// Only `imgVolver` closes this dialog.
 struct LogicaFiltroCR {
@@ -44,6 +41,4 @@ struct LogicaFiltroCR {
     TextosPorcentajes& Textos(TablaCR tabla) {
         return tabla == TablaCR::Apostados ? txtPorcentajesApostados : txtPorcentajesReales;
     }
-    bool SinBlancos(TablaCR tabla);
-    bool SinErrores(TablaCR tabla);
 };

@@ -21,6 +21,10 @@ int32_t Coeficiente(const Tramo& tramo, const TablasCoeficiente& t) {
     return NucleoCoeficienteEscalar(tramo, t);
 }
 
+void Respuestas(const Tramo& tramo, const TablasCoeficiente& t, uint8_t* respuestas) {
+    NucleoRespuestasEscalar(tramo, t, respuestas);
+}
+
 #else
 
 using Dobles = hn::ScalableTag<double>;
@@ -66,7 +70,7 @@ HWY_INLINE Redondeo EnUnidades(VD producto) {
 
 // Decides as many bets as a vector of doubles holds, from `i` on. The few that stay in doubt are left
 // so.
-HWY_INLINE void DecidirConDobles(const Tramo& tramo, int64_t i, const TablasCoeficiente& tablas, uint8_t* veredicto) {
+HWY_INLINE void DecidirConDobles(const Tramo& tramo, int64_t i, const TablasCoeficiente& tablas, uint8_t* respuesta) {
     VD productoApostado = hn::Set(dd, 1e14), productoReal = productoApostado;
     for (const uint8_t* fila : tramo.fila) {
         const Posiciones posiciones(fila + i);
@@ -84,47 +88,53 @@ HWY_INLINE void DecidirConDobles(const Tramo& tramo, int64_t i, const TablasCoef
     const hn::Rebind<int32_t, Dobles> d32;
     const hn::Rebind<uint8_t, Dobles> d8;
     const auto porClase = hn::GatherIndex(d32, tablas.PorClase.data(), hn::DemoteTo(d32, clase));
-    hn::StoreU(hn::DemoteTo(d8, porClase), d8, veredicto);
+    hn::StoreU(hn::DemoteTo(d8, porClase), d8, respuesta);
 }
 
-struct PruebaCoeficiente {
+struct RespuestaCoeficiente {
     SumaPalabras sumar;
     const TablasCoeficiente& tablas;
-    explicit PruebaCoeficiente(const TablasCoeficiente& t) : sumar(t.Logaritmo), tablas(t) {}
+    explicit RespuestaCoeficiente(const TablasCoeficiente& t) : sumar(t.Logaritmo), tablas(t) {}
 
     HWY_INLINE V operator()(const Tramo& tramo, int64_t i) const {
         constexpr size_t palabras = hn::MaxLanes(d16);
         HWY_ALIGN uint16_t pares[palabras], impares[palabras];
-        HWY_ALIGN uint8_t veredicto[2 * palabras];
+        HWY_ALIGN uint8_t respuesta[2 * palabras];
         const ParPalabras suma = sumar(tramo, i);
         hn::Store(suma.pares, d16, pares);
         hn::Store(suma.impares, d16, impares);
         const uint8_t* porSuma = tablas.PorSuma.data();
         for (size_t j = 0; j < palabras; ++j) {
-            veredicto[2 * j] = porSuma[pares[j]];
-            veredicto[2 * j + 1] = porSuma[impares[j]];
+            respuesta[2 * j] = porSuma[pares[j]];
+            respuesta[2 * j + 1] = porSuma[impares[j]];
         }
-        const V v = hn::Load(d, veredicto);
+        const V v = hn::Load(d, respuesta);
         const auto dudas = hn::Eq(v, hn::Set(d, TablasCoeficiente::Duda));
         if (hn::AllFalse(d, dudas)) return v;
         uint8_t bits[HWY_MAX_BYTES / 8];
         hn::StoreMaskBits(d, dudas, bits);
         for (size_t j = 0; j < 2 * palabras; j += AnchoDobles)
             if ((bits[j / 8] >> j % 8 & ((1 << AnchoDobles) - 1)) != 0)
-                Decidir(tramo, i + static_cast<int64_t>(j), veredicto + j);
-        return hn::Load(d, veredicto);
+                Decidir(tramo, i + static_cast<int64_t>(j), respuesta + j);
+        return hn::Load(d, respuesta);
     }
 
-    HWY_INLINE void Decidir(const Tramo& tramo, int64_t i, uint8_t* veredicto) const {
-        if (tablas.Moderados) DecidirConDobles(tramo, i, tablas, veredicto);
+    HWY_INLINE void Decidir(const Tramo& tramo, int64_t i, uint8_t* respuesta) const {
+        if (tablas.Moderados) DecidirConDobles(tramo, i, tablas, respuesta);
         for (size_t j = 0; j < AnchoDobles; ++j)
-            if (veredicto[j] == TablasCoeficiente::Duda)
-                veredicto[j] = PasaExacta(tramo, i + static_cast<int64_t>(j), tablas);
+            if (respuesta[j] == TablasCoeficiente::Duda)
+                respuesta[j] = RespuestaExacta(tramo, i + static_cast<int64_t>(j), tablas);
     }
 };
 
 int32_t Coeficiente(const Tramo& tramo, const TablasCoeficiente& tablas) {
-    return Recorrer(tramo, PruebaCoeficiente(tablas));
+    return Recorrer(tramo, RespuestaCoeficiente(tablas));
+}
+
+void Respuestas(const Tramo& tramo, const TablasCoeficiente& tablas, uint8_t* respuestas) {
+    const RespuestaCoeficiente responder(tablas);
+    const auto ancho = static_cast<int64_t>(hn::Lanes(d));
+    for (int64_t i = 0; i < tramo.n; i += ancho) hn::Store(responder(tramo, i), d, respuestas + i);
 }
 
 #endif
@@ -135,13 +145,18 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace {
 HWY_EXPORT(Coeficiente);
+HWY_EXPORT(Respuestas);
 } // namespace
 
 int32_t NucleoCoeficiente(const Tramo& tramo, const TablasCoeficiente& tablas) {
     return HWY_DYNAMIC_DISPATCH(Coeficiente)(tramo, tablas);
 }
 
-bool PasaExacta(const Tramo& tramo, int64_t i, const TablasCoeficiente& tablas) {
+void NucleoRespuestas(const Tramo& tramo, const TablasCoeficiente& tablas, uint8_t* respuestas) {
+    HWY_DYNAMIC_DISPATCH(Respuestas)(tramo, tablas, respuestas);
+}
+
+uint8_t RespuestaExacta(const Tramo& tramo, int64_t i, const TablasCoeficiente& tablas) {
     SeisPorcentajes apostado, real;
     for (size_t r = 0; r < 6; ++r) {
         const size_t posicion = tramo.fila[r][i] & 63u;
@@ -149,10 +164,14 @@ bool PasaExacta(const Tramo& tramo, int64_t i, const TablasCoeficiente& tablas) 
         real[r] = tablas.Real[posicion];
     }
     const int clase = ClaseCR(ProbabilidadCR(apostado), ProbabilidadCR(real));
-    return tablas.PorClase[static_cast<size_t>(clase)] == TablasCoeficiente::Pasa;
+    return static_cast<uint8_t>(tablas.PorClase[static_cast<size_t>(clase)]);
 }
 
 int32_t NucleoCoeficienteEscalar(const Tramo& tramo, const TablasCoeficiente& tablas) {
-    return RecorrerUnaAUna(tramo, [&](int64_t i) { return PasaExacta(tramo, i, tablas); });
+    return RecorrerUnaAUna(tramo, [&](int64_t i) { return RespuestaExacta(tramo, i, tablas) != 0; });
+}
+
+void NucleoRespuestasEscalar(const Tramo& tramo, const TablasCoeficiente& tablas, uint8_t* respuestas) {
+    for (int64_t i = 0; i < tramo.n; ++i) respuestas[i] = RespuestaExacta(tramo, i, tablas);
 }
 #endif

@@ -2,7 +2,7 @@
 
 const std::array<std::string_view, 4> NombresMenus{"&Archivo", "&Datos", "&Utilidades", "A&yuda"};
 
-const std::array<EntradaMenu, 19> EntradasMenu{{
+const std::array<EntradaMenu, 20> EntradasMenu{{
     {Orden::Nuevo, "menuNuevo", "&Archivo", "&Nuevo fichero XML", "Ctrl+N"},
     {Orden::Abrir, "menuAbrir", "&Archivo", "&Abrir fichero XML", "Ctrl+O"},
     {Orden::Guardar, "menuGuardar", "&Archivo", "&Guardar fichero XML", "Ctrl+S"},
@@ -25,6 +25,8 @@ const std::array<EntradaMenu, 19> EntradasMenu{{
      "Generador Apuestas Aleatorias por &Números", ""},
     {Orden::GeneradorAleatoriasXPorcentaje, "menuGeneradorAleatoriasXPorcentaje", "&Utilidades",
      "Generador Apuestas Aleatorias por &Porcentajes", ""},
+    {Orden::CoeficienteRentabilidad, "menuCoeficienteRentabilidad", "&Utilidades", "Utilidad &Coeficiente Rentabilidad",
+     ""},
     {Orden::AyudaOnline, "menuAyudaOnline", "A&yuda", "Ayuda &Online", "F1"},
     {Orden::AcercaDe, "menuAcercaDe", "A&yuda", "&Acerca de TOMBOLERA ...", ""},
 }};

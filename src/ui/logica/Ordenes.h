@@ -22,6 +22,7 @@ enum class Orden {
     SistemasPropios,
     GeneradorAleatoriasXNumero,
     GeneradorAleatoriasXPorcentaje,
+    CoeficienteRentabilidad,
     AyudaOnline,
     AcercaDe,
     ValidarOnLine,
@@ -49,5 +50,5 @@ struct EntradaBarra {
 };
 
 extern const std::array<std::string_view, 4> NombresMenus;
-extern const std::array<EntradaMenu, 19> EntradasMenu;
+extern const std::array<EntradaMenu, 20> EntradasMenu;
 extern const std::array<EntradaBarra, 7> lblMenu;

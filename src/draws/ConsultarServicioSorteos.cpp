@@ -159,6 +159,12 @@ bool LeerCategorias(pugi::xml_node nodo, SorteoConPremios& sorteo, std::string& 
     });
 }
 
+// The parser takes fragments too, but an answer is one document.
+auto Raices(const pugi::xml_document& xml) {
+    return std::count_if(xml.begin(), xml.end(),
+                         [](const pugi::xml_node& nodo) { return nodo.type() == pugi::node_element; });
+}
+
 } // namespace
 
 RespuestaServicio::RespuestaServicio() : documento_(std::make_unique<Documento>()) {}
@@ -169,6 +175,7 @@ bool RespuestaServicio::Analizar(std::string cuerpo) {
     const pugi::xml_parse_result resultado =
         documento_->xml.load_buffer_inplace(documento_->cuerpo.data(), documento_->cuerpo.size());
     motivo_ = MotivoDe(resultado.status);
+    if (Legible() && Raices(documento_->xml) > 1) motivo_ = "hay más de un elemento raíz";
     return Legible();
 }
 

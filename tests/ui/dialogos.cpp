@@ -112,8 +112,8 @@ std::unique_ptr<QDialog> MultiFichero(Guion& g) {
 // Two systems and their sum.
 std::unique_ptr<QDialog> Algebra(Guion& g) {
     static const CarpetaTemporal carpeta;
-    EscribirTodo(carpeta.Ruta("peña del sábado.txt"), "030712182941\n031012183341\n");
-    EscribirTodo(carpeta.Ruta("abono.txt"), "030712182941\n051419233840\n");
+    EscribirTodo(carpeta.Ruta("peña del sábado.txt"), "030712182941\r\n031012183341\r\n");
+    EscribirTodo(carpeta.Ruta("abono.txt"), "030712182941\r\n051419233840\r\n");
     auto dialogo = std::make_unique<frmAlgebra>(g.sesion, g.entorno, nullptr);
     for (const auto& [i, nombre] : {std::pair{"0", "peña del sábado.txt"}, {"1", "abono.txt"}}) {
         g.Ficheros = {carpeta.Ruta(nombre)};
@@ -130,7 +130,7 @@ std::unique_ptr<QDialog> Rentabilidad(Guion& g) {
     std::string apuestas;
     for (int a = 10; a < 40; ++a)
         for (int b = a + 1; b < 46; ++b)
-            apuestas += "0" + std::to_string(1 + b % 9) + std::to_string(a) + std::to_string(b) + "464749\n";
+            apuestas += "0" + std::to_string(1 + b % 9) + std::to_string(a) + std::to_string(b) + "464749\r\n";
     EscribirTodo(carpeta.Ruta("peña del sábado.txt"), apuestas);
     auto dialogo = std::make_unique<frmCoeficienteRentabilidad>(g.sesion, g.entorno, nullptr);
     g.Ficheros = {carpeta.Ruta("peña del sábado.txt")};

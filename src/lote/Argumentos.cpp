@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <CLI/CLI.hpp>
+
 #include "Juegos.h"
 #include "NumerosTexto.h"
 #include "modGeneral.h"
@@ -96,38 +98,79 @@ CLI::App* NuevaOrden(CLI::App& programa, Lote& lote, const std::string& nombre, 
     return orden;
 }
 
-CLI::Option* Fichero(CLI::App* orden, const std::string& nombre, std::string& ruta, const std::string& descripcion) {
+Opcion Opcion::Obligatoria(bool si) const {
+    opcion_->required(si);
+    return *this;
+}
+
+Opcion Opcion::VaCon(const Opcion& otra) const {
+    opcion_->needs(otra.opcion_);
+    return *this;
+}
+
+Opcion Opcion::Descripcion(const std::string& texto) const {
+    opcion_->description(texto);
+    return *this;
+}
+
+Opcion Opcion::Comprobar(const std::function<std::string(const std::string&)>& comprobar) const {
+    opcion_->check(comprobar);
+    return *this;
+}
+
+void ArgumentoMalo(const std::string& nombre, const std::string& texto) {
+    throw CLI::ValidationError(nombre, texto);
+}
+
+Opcion OpcionLeida(CLI::App* orden, const std::string& nombre, const std::string& tipo,
+                   const std::function<void(const std::string& valor)>& leer, const std::string& descripcion) {
+    const CLI::callback_t tomar = [leer](const CLI::results_t& valores) {
+        leer(valores.front());
+        return true;
+    };
+    return Opcion(orden->add_option(nombre, tomar, descripcion)->type_name(tipo));
+}
+
+Opcion Bandera(CLI::App* orden, const std::string& nombre, bool& valor, const std::string& descripcion) {
+    return Opcion(orden->add_flag(nombre, valor, descripcion));
+}
+
+Opcion Ficheros(CLI::App* orden, const std::string& nombre, std::vector<std::string>& rutas,
+                const std::string& descripcion) {
+    return Opcion(orden->add_option(nombre, rutas, descripcion)->type_name("")->required());
+}
+
+void AlLeerTodos(CLI::App* orden, const std::function<void()>& comprobar) {
+    orden->parse_complete_callback(comprobar);
+}
+
+Opcion Fichero(CLI::App* orden, const std::string& nombre, std::string& ruta, const std::string& descripcion) {
     CLI::Option* opcion = orden->add_option(nombre, ruta, descripcion)->check(ComprobarFichero);
-    return nombre.starts_with("--") ? opcion->type_name("F") : opcion->type_name("")->required();
+    return Opcion(nombre.starts_with("--") ? opcion->type_name("F") : opcion->type_name("")->required());
 }
 
-CLI::Option* OpcionJuego(CLI::App* orden, int& juego) {
-    const auto leer = [&juego](const CLI::results_t& valores) {
-        const auto hay =
-            std::find_if(Juegos.begin(), Juegos.end(), [&](const Juego& j) { return j.Nombre == valores.front(); });
-        if (hay == Juegos.end())
-            throw CLI::ValidationError("--juego", "se espera PRIMITIVA, BONOLOTO o EURODREAMS, no " + valores.front());
+Opcion OpcionJuego(CLI::App* orden, int& juego) {
+    const auto leer = [&juego](const std::string& texto) {
+        const auto hay = std::find_if(Juegos.begin(), Juegos.end(), [&](const Juego& j) { return j.Nombre == texto; });
+        if (hay == Juegos.end()) ArgumentoMalo("--juego", "se espera PRIMITIVA, BONOLOTO o EURODREAMS, no " + texto);
         juego = static_cast<int>(hay - Juegos.begin());
-        return true;
     };
-    return orden->add_option("--juego", leer, "PRIMITIVA (si falta), BONOLOTO o EURODREAMS")->type_name("J");
+    return OpcionLeida(orden, "--juego", "J", leer, "PRIMITIVA (si falta), BONOLOTO o EURODREAMS");
 }
 
-CLI::Option* EnteroEntre(CLI::App* orden, const std::string& nombre, int& valor, int minimo, int maximo,
-                         const std::string& descripcion) {
-    const auto leer = [&valor, nombre, minimo, maximo](const CLI::results_t& valores) {
-        if (!LeerEntero(valores.front(), valor) || valor < minimo || valor > maximo)
-            throw CLI::ValidationError(nombre, "se espera un número de " + std::to_string(minimo) + " a " +
-                                                   std::to_string(maximo) + ", no " + valores.front());
-        return true;
+Opcion EnteroEntre(CLI::App* orden, const std::string& nombre, int& valor, int minimo, int maximo,
+                   const std::string& descripcion) {
+    const auto leer = [&valor, nombre, minimo, maximo](const std::string& texto) {
+        if (!LeerEntero(texto, valor) || valor < minimo || valor > maximo)
+            ArgumentoMalo(nombre, "se espera un número de " + std::to_string(minimo) + " a " + std::to_string(maximo) +
+                                      ", no " + texto);
     };
-    return orden->add_option(nombre, leer, descripcion)->type_name("N");
+    return OpcionLeida(orden, nombre, "N", leer, descripcion);
 }
 
-CLI::Option* OpcionIntervalo(CLI::App* orden, const std::string& nombre, std::string& desde, std::string& hasta,
-                             const std::string& descripcion) {
-    const auto leer = [&desde, &hasta, nombre](const CLI::results_t& valores) {
-        const std::string& texto = valores.front();
+Opcion OpcionIntervalo(CLI::App* orden, const std::string& nombre, std::string& desde, std::string& hasta,
+                       const std::string& descripcion) {
+    const auto leer = [&desde, &hasta, nombre](const std::string& texto) {
         const size_t guion = texto.find('-');
         const auto sonCifras = [](const std::string& t) {
             return !t.empty() && t.find_first_not_of("0123456789") == std::string::npos;
@@ -135,34 +178,30 @@ CLI::Option* OpcionIntervalo(CLI::App* orden, const std::string& nombre, std::st
         desde = texto.substr(0, guion);
         hasta = guion == std::string::npos ? "" : texto.substr(guion + 1);
         if (!sonCifras(desde) || !sonCifras(hasta))
-            throw CLI::ValidationError(nombre, "se esperan dos números como 10-20, no " + texto);
-        return true;
+            ArgumentoMalo(nombre, "se esperan dos números como 10-20, no " + texto);
     };
-    return orden->add_option(nombre, leer, descripcion)->type_name("A-B");
+    return OpcionLeida(orden, nombre, "A-B", leer, descripcion);
 }
 
-CLI::Option* Entero(CLI::App* orden, const std::string& nombre, int32_t& valor, int32_t minimo,
+Opcion Entero(CLI::App* orden, const std::string& nombre, int32_t& valor, int32_t minimo,
+              const std::string& descripcion) {
+    const auto leer = [&valor, nombre, minimo](const std::string& texto) {
+        if (!LeerEntero(texto, valor) || valor < minimo)
+            ArgumentoMalo(nombre, "se espera un número entero desde " + std::to_string(minimo) + ", no " + texto);
+    };
+    return OpcionLeida(orden, nombre, "N", leer, descripcion);
+}
+
+Opcion ListaNumeros(CLI::App* orden, const std::string& nombre, std::vector<int>& numeros,
                     const std::string& descripcion) {
-    const auto leer = [&valor, nombre, minimo](const CLI::results_t& valores) {
-        if (!LeerEntero(valores.front(), valor) || valor < minimo)
-            throw CLI::ValidationError(nombre, "se espera un número entero desde " + std::to_string(minimo) + ", no " +
-                                                   valores.front());
-        return true;
-    };
-    return orden->add_option(nombre, leer, descripcion)->type_name("N");
-}
-
-CLI::Option* ListaNumeros(CLI::App* orden, const std::string& nombre, std::vector<int>& numeros,
-                          const std::string& descripcion) {
-    const auto leer = [&numeros, nombre](const CLI::results_t& valores) {
-        const NumerosLeidos leidos = LeerNumeros(valores.front(), NumeroMaximoBoleto);
+    const auto leer = [&numeros, nombre](const std::string& texto) {
+        const NumerosLeidos leidos = LeerNumeros(texto, NumeroMaximoBoleto);
         if (leidos.Numeros.empty() || !leidos.Erroneos.empty())
-            throw CLI::ValidationError(nombre, "se esperan números de 1 a 49 separados por comas, no " +
-                                                   (leidos.Erroneos.empty() ? "\"\"" : leidos.Erroneos.front()));
+            ArgumentoMalo(nombre, "se esperan números de 1 a 49 separados por comas, no " +
+                                      (leidos.Erroneos.empty() ? "\"\"" : leidos.Erroneos.front()));
         numeros = leidos.Numeros;
-        return true;
     };
-    return orden->add_option(nombre, leer, descripcion)->type_name("L");
+    return OpcionLeida(orden, nombre, "L", leer, descripcion);
 }
 
 std::string TextoError(const CLI::App& programa, const CLI::ParseError& error) {

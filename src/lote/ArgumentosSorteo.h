@@ -5,8 +5,7 @@
 #include <string>
 #include <vector>
 
-#include <CLI/CLI.hpp>
-
+#include "Argumentos.h"
 #include "LogicaEscrutar.h"
 
 struct ArgumentosSorteo {

@@ -35,17 +35,13 @@ bool Algebra(Lote& lote, const ArgumentosAlgebra& argumentos) {
 }
 
 void OpcionOperacion(CLI::App* orden, int& operacion) {
-    const auto leer = [&operacion](const CLI::results_t& valores) {
-        const auto hay = std::find(Operaciones.begin(), Operaciones.end(), valores.front());
+    const auto leer = [&operacion](const std::string& valor) {
+        const auto hay = std::find(Operaciones.begin(), Operaciones.end(), valor);
         if (hay == Operaciones.end())
-            throw CLI::ValidationError("OPERACION",
-                                       "se espera ordenar, sumar, unir, comunes o restar, no " + valores.front());
+            ArgumentoMalo("OPERACION", "se espera ordenar, sumar, unir, comunes o restar, no " + valor);
         operacion = static_cast<int>(hay - Operaciones.begin());
-        return true;
     };
-    orden->add_option("OPERACION", leer, "ordenar, sumar, unir (sin repetidas), comunes o restar")
-        ->type_name("")
-        ->required();
+    OpcionLeida(orden, "OPERACION", "", leer, "ordenar, sumar, unir (sin repetidas), comunes o restar").Obligatoria();
 }
 
 } // namespace
@@ -56,7 +52,7 @@ void DeclararAlgebra(CLI::App& programa, Lote& lote) {
                                  [argumentos](Lote& l) { return Algebra(l, *argumentos); });
     OpcionOperacion(orden, argumentos->Operacion);
     Fichero(orden, "S1", argumentos->S1, "Fichero del sistema 1");
-    Fichero(orden, "S2", argumentos->S2, "Fichero del sistema 2, que ordenar no necesita")->required(false);
-    orden->add_flag("--descendente", argumentos->Descendente, "Ordena de la última apuesta a la primera");
-    Fichero(orden, "--guardar", argumentos->Guardar, "Fichero de apuestas que se escribe")->required();
+    Fichero(orden, "S2", argumentos->S2, "Fichero del sistema 2, que ordenar no necesita").Obligatoria(false);
+    Bandera(orden, "--descendente", argumentos->Descendente, "Ordena de la última apuesta a la primera");
+    Fichero(orden, "--guardar", argumentos->Guardar, "Fichero de apuestas que se escribe").Obligatoria();
 }

@@ -23,5 +23,5 @@ void DeclararBase(CLI::App& programa, Lote& lote) {
     CLI::App* orden = NuevaOrden(programa, lote, "base", "Abre un fichero base y lo vuelve a guardar",
                                  [argumentos](Lote& l) { return Base(l, *argumentos); });
     Fichero(orden, "BASE.xml", argumentos->Base, "Fichero base que se abre");
-    Fichero(orden, "--guardar", argumentos->Guardar, "Fichero base que se escribe")->required();
+    Fichero(orden, "--guardar", argumentos->Guardar, "Fichero base que se escribe").Obligatoria();
 }

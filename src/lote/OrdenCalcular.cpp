@@ -100,11 +100,10 @@ void DeclararCalcular(CLI::App& programa, Lote& lote) {
     CLI::App* orden = NuevaOrden(programa, lote, "calcular", "Calcula el sistema de un fichero base",
                                  [argumentos](Lote& l) { return Calcular(l, *argumentos); });
     Fichero(orden, "BASE.xml", argumentos->Base, "Fichero base que se abre");
-    CLI::Option* importar =
+    const Opcion importar =
         Fichero(orden, "--importar", argumentos->Importar,
                 "Parte de las apuestas de este fichero; el fichero base sólo da condiciones y reducción");
-    orden->add_flag("--reintegros", argumentos->Reintegros, "Carga también sus reintegros o sus sueños")
-        ->needs(importar);
+    Bandera(orden, "--reintegros", argumentos->Reintegros, "Carga también sus reintegros o sus sueños").VaCon(importar);
     Fichero(orden, "--sorteos", argumentos->Sorteos,
             "Carga de esta respuesta del servicio los sorteos de «Sorteos Anteriores»");
     Entero(orden, "--ciclos", argumentos->Ciclos, 1, "Ciclos de una reducción que no acaba por sí sola; si falta, 1");
@@ -113,5 +112,5 @@ void DeclararCalcular(CLI::App& programa, Lote& lote) {
     Fichero(orden, "--guardar", argumentos->Guardar, "Graba el sistema final, y a su lado su fichero base");
     Fichero(orden, "--texto", argumentos->Texto, "Escribe las apuestas finales, doce cifras por línea");
     Fichero(orden, "--condicionadas", argumentos->Condicionadas, "Escribe igual las apuestas condicionadas");
-    orden->add_flag("--json", argumentos->Json, "Escribe las cuentas como un objeto JSON");
+    Bandera(orden, "--json", argumentos->Json, "Escribe las cuentas como un objeto JSON");
 }

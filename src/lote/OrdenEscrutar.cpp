@@ -43,6 +43,6 @@ void DeclararEscrutar(CLI::App& programa, Lote& lote) {
             ExigirEntre("--digito", argumentos->Digito, juego.DigitoMinimo, juego.DigitoMaximo);
     });
     Entero(orden, "--digito", argumentos->Digito, 0, "Reintegro o sueño premiado; si falta, el primero del juego");
-    orden->add_flag("--reintegros", argumentos->Reintegros, "Carga también los reintegros o los sueños");
-    orden->add_flag("--informe", argumentos->Informe, "Escribe el informe de boletos premiados");
+    Bandera(orden, "--reintegros", argumentos->Reintegros, "Carga también los reintegros o los sueños");
+    Bandera(orden, "--informe", argumentos->Informe, "Escribe el informe de boletos premiados");
 }

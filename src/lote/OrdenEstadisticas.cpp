@@ -44,7 +44,7 @@ void DeclararEstadisticas(CLI::App& programa, Lote& lote) {
                   : tipo == 5 ? ",\n"
                               : ", ") +
                  std::to_string(tipo) + " " + std::string(NombreEstadistica(tipo));
-    EnteroEntre(orden, "--tipo", argumentos->Tipo, 0, NEstadisticas - 1, tipos)->required();
+    EnteroEntre(orden, "--tipo", argumentos->Tipo, 0, NEstadisticas - 1, tipos).Obligatoria();
     OpcionIntervalo(orden, "--anios", argumentos->AnioDesde, argumentos->AnioHasta,
                     "Años, los dos incluidos; si falta, desde 1985 hasta el actual");
     OpcionIntervalo(orden, "--sorteo", argumentos->SorteoDesde, argumentos->SorteoHasta,

@@ -57,26 +57,22 @@ bool MiniGarantias(Lote& lote, const ArgumentosGarantias& argumentos) {
 }
 
 void LeerTipo(CLI::App* orden, bool& condicionado) {
-    const auto leer = [&condicionado](const CLI::results_t& valores) {
-        condicionado = valores.front() == "condicionado";
-        if (!condicionado && valores.front() != "total")
-            throw CLI::ValidationError("--tipo", "se espera total o condicionado, no " + valores.front());
-        return true;
+    const auto leer = [&condicionado](const std::string& valor) {
+        condicionado = valor == "condicionado";
+        if (!condicionado && valor != "total") ArgumentoMalo("--tipo", "se espera total o condicionado, no " + valor);
     };
-    orden->add_option("--tipo", leer, "total, sobre todos los sorteos posibles de la base (si falta), o condicionado")
-        ->type_name("T");
+    OpcionLeida(orden, "--tipo", "T", leer,
+                "total, sobre todos los sorteos posibles de la base (si falta), o condicionado");
 }
 
 void LeerAciertos(CLI::App* orden, int& aciertos) {
-    const auto leer = [&aciertos](const CLI::results_t& valores) {
-        const std::string& texto = valores.front();
+    const auto leer = [&aciertos](const std::string& valor) {
+        const std::string& texto = valor;
         if (texto != "todas" && (texto.size() != 1 || texto[0] < '1' || texto[0] > '6'))
-            throw CLI::ValidationError("--aciertos", "se espera un número de 1 a 6 o todas, no " + texto);
+            ArgumentoMalo("--aciertos", "se espera un número de 1 a 6 o todas, no " + texto);
         aciertos = texto == "todas" ? TodasLasGarantias : texto[0] - '0';
-        return true;
     };
-    orden->add_option("--aciertos", leer, "Aciertos sobre el sistema total: de 1 a 6 (6 si falta) o todas")
-        ->type_name("A");
+    OpcionLeida(orden, "--aciertos", "A", leer, "Aciertos sobre el sistema total: de 1 a 6 (6 si falta) o todas");
 }
 
 CLI::App* Declarar(CLI::App& programa, Lote& lote, const std::string& nombre, const std::string& descripcion,

@@ -37,8 +37,8 @@ bool GenerarPorcentajes(Lote& lote, const ArgumentosGenerar& argumentos) {
 }
 
 void DeclararComunes(CLI::App* orden, ArgumentosGenerar& argumentos) {
-    Entero(orden, "--apuestas", argumentos.Apuestas, 0, "Cuántas apuestas se generan")->required();
-    Fichero(orden, "--guardar", argumentos.Guardar, "Fichero de apuestas que se escribe")->required();
+    Entero(orden, "--apuestas", argumentos.Apuestas, 0, "Cuántas apuestas se generan").Obligatoria();
+    Fichero(orden, "--guardar", argumentos.Guardar, "Fichero de apuestas que se escribe").Obligatoria();
 }
 
 } // namespace
@@ -48,13 +48,13 @@ void DeclararGenerar(CLI::App& programa, Lote& lote) {
     CLI::App* orden = NuevaOrden(programa, lote, "generar-numeros", "Genera apuestas al azar con unos números",
                                  [numeros](Lote& l) { return GenerarNumeros(l, *numeros); });
     OpcionJuego(orden, numeros->Juego);
-    ListaNumeros(orden, "--numeros", numeros->Numeros, "Números del boleto, separados por comas")->required();
+    ListaNumeros(orden, "--numeros", numeros->Numeros, "Números del boleto, separados por comas").Obligatoria();
     DeclararComunes(orden, *numeros);
 
     const auto porcentajes = std::make_shared<ArgumentosGenerar>();
     orden = NuevaOrden(programa, lote, "generar-porcentajes", "Genera apuestas al azar según unos porcentajes",
                        [porcentajes](Lote& l) { return GenerarPorcentajes(l, *porcentajes); });
     OpcionJuego(orden, porcentajes->Juego);
-    Fichero(orden, "--porcentajes", porcentajes->Porcentajes, "Fichero de porcentajes")->required();
+    Fichero(orden, "--porcentajes", porcentajes->Porcentajes, "Fichero de porcentajes").Obligatoria();
     DeclararComunes(orden, *porcentajes);
 }

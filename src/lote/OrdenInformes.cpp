@@ -69,6 +69,7 @@ void DeclararEliminadas(CLI::App& programa, Lote& lote) {
 
 void DeclararAnalisis(CLI::App& programa, Lote& lote) {
     const auto argumentos = std::make_shared<ArgumentosInforme>();
-    Declarar(programa, lote, "analisis", "Calcula y escribe en cuántas apuestas está cada número", argumentos, Analisis)
-        ->add_flag("--porcentajes", argumentos->Porcentajes, "En porcentajes, no en número de apuestas");
+    CLI::App* orden = Declarar(programa, lote, "analisis", "Calcula y escribe en cuántas apuestas está cada número",
+                               argumentos, Analisis);
+    Bandera(orden, "--porcentajes", argumentos->Porcentajes, "En porcentajes, no en número de apuestas");
 }

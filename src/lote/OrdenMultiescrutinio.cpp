@@ -51,7 +51,7 @@ void DeclararMultiescrutinio(CLI::App& programa, Lote& lote) {
                                  "Lo que un fichero de apuestas habría ganado en los sorteos de la historia",
                                  [argumentos](Lote& l) { return Multiescrutinio(l, *argumentos); });
     Fichero(orden, "F", argumentos->Fichero, "Fichero de apuestas");
-    OpcionJuego(orden, argumentos->Juego)->description("PRIMITIVA (si falta) o BONOLOTO")->check(NoEurodreams);
+    OpcionJuego(orden, argumentos->Juego).Descripcion("PRIMITIVA (si falta) o BONOLOTO").Comprobar(NoEurodreams);
     Fichero(orden, "--sorteos", argumentos->Sorteos,
             "Respuesta guardada del servicio de sorteos; si falta, se le pregunta");
     OpcionIntervalo(orden, "--anios", argumentos->AnioDesde, argumentos->AnioHasta,

@@ -42,6 +42,6 @@ void DeclararMultifichero(CLI::App& programa, Lote& lote) {
                                  "Cuenta los aciertos de varios ficheros de apuestas en una lista de sorteos",
                                  [argumentos](Lote& l) { return Multifichero(l, *argumentos); });
     Fichero(orden, "SORTEOS.txt", argumentos->Sorteos, "Fichero de texto con los sorteos, seis números por línea");
-    orden->add_option("F", argumentos->Ficheros, "Ficheros de apuestas, hasta mil")->type_name("")->required();
-    orden->add_flag("--detalle", argumentos->Detalle, "Escribe un informe por fichero, con una línea por sorteo");
+    Ficheros(orden, "F", argumentos->Ficheros, "Ficheros de apuestas, hasta mil");
+    Bandera(orden, "--detalle", argumentos->Detalle, "Escribe un informe por fichero, con una línea por sorteo");
 }

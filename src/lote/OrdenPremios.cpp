@@ -13,19 +13,17 @@ struct ArgumentosPremios : ArgumentosSorteo {
 };
 
 void OpcionFecha(CLI::App* orden, ArgumentosPremios& argumentos) {
-    const auto leer = [&argumentos](const CLI::results_t& valores) {
-        const std::string& fecha = valores.front();
+    const auto leer = [&argumentos](const std::string& valor) {
+        const std::string& fecha = valor;
         const size_t una = fecha.find('/'), otra = fecha.find('/', una == std::string::npos ? una : una + 1);
         if (una == std::string::npos || otra == std::string::npos)
-            throw CLI::ValidationError("--fecha", "se espera DD/MM/AAAA, no " + fecha);
+            ArgumentoMalo("--fecha", "se espera DD/MM/AAAA, no " + fecha);
         argumentos.Dia = fecha.substr(0, una);
         argumentos.Mes = fecha.substr(una + 1, otra - una - 1);
         argumentos.Anio = fecha.substr(otra + 1);
-        return true;
     };
-    orden->add_option("--fecha", leer, "Fecha del sorteo, con los ceros que le pone el servicio")
-        ->type_name("DD/MM/AAAA")
-        ->required();
+    OpcionLeida(orden, "--fecha", "DD/MM/AAAA", leer, "Fecha del sorteo, con los ceros que le pone el servicio")
+        .Obligatoria();
 }
 
 bool Premios(Lote& lote, const ArgumentosPremios& argumentos) {

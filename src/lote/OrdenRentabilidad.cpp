@@ -1,4 +1,6 @@
 // rentabilidad: how many bets of a file fall on each coefficient of profitability.
+#include <sstream>
+
 #include "Argumentos.h"
 #include "LogicaCoeficienteRentabilidad.h"
 #include "Ordenes.h"
@@ -41,18 +43,17 @@ size_t LeerCR(const std::string& texto) {
     const bool entero = texto.size() == 1, decimal = texto.size() == 3 && texto[1] == '.';
     const auto cifra = [&](size_t i) { return texto[i] >= '0' && texto[i] <= '9'; };
     if (!(entero || decimal) || !cifra(0) || (decimal && !cifra(2)))
-        throw CLI::ValidationError("--cr", "se esperan valores de 0.0 a 9.9, no " + texto);
+        ArgumentoMalo("--cr", "se esperan valores de 0.0 a 9.9, no " + texto);
     return static_cast<size_t>((texto[0] - '0') * 10 + (decimal ? texto[2] - '0' : 0));
 }
 
-CLI::Option* OpcionCR(CLI::App* orden, std::vector<size_t>& elegidos) {
-    const auto leer = [&elegidos](const CLI::results_t& valores) {
-        for (const std::string& valor : CLI::detail::split(valores.front(), ',')) elegidos.push_back(LeerCR(valor));
-        return true;
+Opcion OpcionCR(CLI::App* orden, std::vector<size_t>& elegidos) {
+    const auto leer = [&elegidos](const std::string& valor) {
+        std::istringstream partes(valor);
+        for (std::string parte; std::getline(partes, parte, ',');) elegidos.push_back(LeerCR(parte));
     };
-    return orden
-        ->add_option("--cr", leer, "Coeficientes cuyas apuestas se guardan, como 1.0,1.1; 9.9 y mayores van juntos")
-        ->type_name("L");
+    return OpcionLeida(orden, "--cr", "L", leer,
+                       "Coeficientes cuyas apuestas se guardan, como 1.0,1.1; 9.9 y mayores van juntos");
 }
 
 } // namespace
@@ -65,8 +66,8 @@ void DeclararRentabilidad(CLI::App& programa, Lote& lote) {
     Fichero(orden, "F", argumentos->Fichero, "Fichero de apuestas");
     Fichero(orden, "--apostados", argumentos->Apostados, "Fichero de porcentajes apostados");
     Fichero(orden, "--reales", argumentos->Reales, "Fichero de porcentajes reales");
-    CLI::Option* cr = OpcionCR(orden, argumentos->CR);
-    CLI::Option* guardar =
-        Fichero(orden, "--guardar", argumentos->Guardar, "Fichero de apuestas que se escribe")->needs(cr);
-    cr->needs(guardar);
+    const Opcion cr = OpcionCR(orden, argumentos->CR);
+    const Opcion guardar =
+        Fichero(orden, "--guardar", argumentos->Guardar, "Fichero de apuestas que se escribe").VaCon(cr);
+    cr.VaCon(guardar);
 }

@@ -34,7 +34,7 @@ void DeclararSistemaPropio(CLI::App& programa, Lote& lote) {
     CLI::App* orden = NuevaOrden(programa, lote, "sistema-propio", "Pasa un sistema a otros números",
                                  [argumentos](Lote& l) { return SistemaPropio(l, *argumentos); });
     Fichero(orden, "F", argumentos->Fichero, "Fichero de apuestas");
-    ListaNumeros(orden, "--destino", argumentos->Destino, "Números de destino, separados por comas")->required();
+    ListaNumeros(orden, "--destino", argumentos->Destino, "Números de destino, separados por comas").Obligatoria();
     ListaNumeros(orden, "--origen", argumentos->Origen, "Número de origen de cada uno de destino, en su orden");
-    Fichero(orden, "--guardar", argumentos->Guardar, "Fichero de apuestas que se escribe")->required();
+    Fichero(orden, "--guardar", argumentos->Guardar, "Fichero de apuestas que se escribe").Obligatoria();
 }

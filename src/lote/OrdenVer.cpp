@@ -39,5 +39,5 @@ void DeclararVer(CLI::App& programa, Lote& lote) {
                                  [argumentos](Lote& l) { return Ver(l, *argumentos); });
     Fichero(orden, "F", argumentos->Fichero, "Fichero de apuestas");
     OpcionJuego(orden, argumentos->Juego);
-    orden->add_flag("--reintegros", argumentos->Reintegros, "Carga también los reintegros o los sueños");
+    Bandera(orden, "--reintegros", argumentos->Reintegros, "Carga también los reintegros o los sueños");
 }

@@ -1,9 +1,7 @@
 // The orders of the batch front end. Each one declares its arguments and what runs them.
 #pragma once
 
-#include <CLI/CLI.hpp>
-
-#include "Lote.h"
+#include "Argumentos.h"
 
 void DeclararCalcular(CLI::App& programa, Lote& lote);
 void DeclararBase(CLI::App& programa, Lote& lote);

@@ -1,6 +1,8 @@
 #include <cstdio>
 #include <exception>
 
+#include <CLI/CLI.hpp>
+
 #include "Argumentos.h"
 #include "Ordenes.h"
 #include "Parada.h"

@@ -12,13 +12,10 @@
 
 #include <fmt/format.h>
 
-#include "Objetivos.h"
-
-#include <hwy/targets.h>
-
 #include "Escrutinio.h"
 #include "Juegos.h"
 #include "Lectura.h"
+#include "Procesador.h"
 #include "TablasCSN.h"
 
 namespace {
@@ -48,14 +45,6 @@ uint64_t LeerTabla(const Tabla& boleto) {
     uint64_t suma = 0;
     for (int r = 1; r <= 6; ++r) suma += SumarBytes(boleto.Fila(r), boleto.Apuestas());
     return suma;
-}
-
-// Each call of DisableTargets takes the place of the one before.
-void UsarProcesador(const std::string& nombre) {
-    int64_t otros = 0;
-    for (const int64_t procesador : hwy::SupportedAndGeneratedTargets())
-        if (hwy::TargetName(procesador) != nombre) otros |= procesador;
-    hwy::DisableTargets(otros);
 }
 
 } // namespace

@@ -12,11 +12,8 @@
 
 #include <fmt/format.h>
 
-#include "Objetivos.h"
-
-#include <hwy/targets.h>
-
 #include "Escenario.h"
+#include "Procesador.h"
 
 namespace {
 
@@ -55,11 +52,6 @@ bool Ronda(Escenario& escenario, Minimos& minimos) {
         bien = false;
     }
     return bien;
-}
-
-void UsarProcesador(const std::string& nombre) {
-    for (const int64_t procesador : hwy::SupportedAndGeneratedTargets())
-        if (hwy::TargetName(procesador) != nombre) hwy::DisableTargets(procesador & ~HWY_SCALAR);
 }
 
 } // namespace

@@ -19,6 +19,7 @@
 #include "HistoriaInventada.h"
 #include "LogicaEstadisticas.h"
 #include "Pintores.h"
+#include "ServicioLocal.h"
 #include "Sesiones.h"
 #include "Ventanas.h"
 #include "frmPrincipal.h"
@@ -189,6 +190,27 @@ TEST(frmEstadisticas, LaActualizacionEsperaConTodoDeshabilitado) {
     EXPECT_EQ(e.Cajas.back(), "[X] ERROR AL ABRIR EL FICHERO DE ACTUALIZACION (conexión cortada)");
     EXPECT_EQ(e.Habilitados(), Marcos);
     EXPECT_EQ(LeerTodo(e.ruta), antes);
+}
+
+TEST(frmEstadisticas, LaActualizacionPorHttpsYLaQueSeCortaAMedias) {
+    ServicioLocal servicio;
+    Estadisticas e;
+    e.Cargar();
+    servicio.Conectar(e.entorno);
+    const std::string respuesta = RespuestaXML(BONOLOTO, SorteosInventados(BONOLOTO, NSorteos + 50));
+    servicio.Responder({.Cuerpo = respuesta, .Trozo = 4096, .Pausa = std::chrono::milliseconds(1)});
+    e.Respuestas = {true};
+    e.Pulsar("cmdActualizar");
+    EXPECT_EQ(e.Rotulo("lblSorteosCargados"), "950");
+    EXPECT_EQ(servicio.Peticiones(), Textos{"/servicios/v1/xml2/eurodreams?temporada=todas&juego=BONOLOTO"});
+    const std::string antes = LeerTodo(e.ruta);
+    e.Cajas.clear();
+    servicio.Responder({.Cuerpo = respuesta, .CortarTras = respuesta.size() / 2});
+    e.Pulsar("cmdActualizar");
+    ASSERT_EQ(e.Cajas.size(), 1u);
+    EXPECT_TRUE(e.Cajas[0].starts_with("[X] ERROR AL ABRIR EL FICHERO DE ACTUALIZACION (")) << e.Cajas[0];
+    EXPECT_EQ(LeerTodo(e.ruta), antes);
+    EXPECT_EQ(e.Habilitados(), Marcos);
 }
 
 TEST(frmEstadisticas, UnTrabajoDeLaPrincipalDejaSoloLosDatos) {

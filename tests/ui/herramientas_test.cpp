@@ -1,10 +1,12 @@
-// The generators, own systems and the viewer, driven through their controls from start to end.
+// The generators, own systems, the viewer and the coefficient of a file, driven through their controls from start to
+// end.
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMimeData>
 #include <QUrl>
 #include <QtTest/QTest>
@@ -12,6 +14,7 @@
 #include "Guion.h"
 #include "Sesiones.h"
 #include "Ventanas.h"
+#include "frmCoeficienteRentabilidad.h"
 #include "frmGeneradorApuestas.h"
 #include "frmGeneradorApuestasXPorcentaje.h"
 #include "frmSistemasPropios.h"
@@ -147,4 +150,36 @@ TEST(Herramientas, VisorBoletoABoletoYEnPdf) {
         ASSERT_EQ(t.Cajas.size(), 1u);
         EXPECT_TRUE(t.Cajas[0].starts_with("[X] ERROR AL GUARDAR EL FICHERO")) << t.Cajas[0];
     }
+}
+
+TEST(Herramientas, RentabilidadDelFicheroALasApuestasElegidas) {
+    Taller t;
+    std::string texto;
+    for (int a = 10; a < 40; ++a)
+        for (int b = a + 1; b < 46; ++b)
+            texto += "0" + std::to_string(1 + b % 9) + std::to_string(a) + std::to_string(b) + "464749\r\n";
+    EscribirTodo(t.carpeta.Ruta("f.txt"), texto);
+    frmCoeficienteRentabilidad ventana(t.sesion, t.entorno, nullptr);
+    ventana.show();
+    t.Ficheros = {t.carpeta.Ruta("f.txt")};
+    Pulsar(ventana, "cmdDesdeFichero");
+    EXPECT_EQ(Texto(ventana, "lblApuCargadas"), "615");
+    Pulsar(ventana, "imgCalcular");
+    auto* lista = Hijo<QListWidget>(ventana, "lstCR");
+    ASSERT_EQ(lista->count(), 100);
+    int elegidas = 0, todas = 0;
+    for (int i = 0; i < lista->count(); ++i) {
+        const int cuantas = lista->item(i)->text().split(Q(": ")).last().toInt();
+        todas += cuantas;
+        if (cuantas == 0 || i % 2 == 0) continue;
+        lista->item(i)->setCheckState(Qt::Checked);
+        elegidas += cuantas;
+    }
+    EXPECT_EQ(todas, 615);
+    EXPECT_GT(elegidas, 0);
+    EXPECT_EQ(Texto(ventana, "lblApuestasSeleccionadasCR"), "Apuestas: " + std::to_string(elegidas));
+    t.Ficheros = {t.carpeta.Ruta("elegidas.TOM")};
+    Pulsar(ventana, "imgGrabarApuestasCR");
+    EXPECT_EQ(t.Leer("elegidas.TOM").size(), static_cast<size_t>(elegidas));
+    EXPECT_EQ(t.Cajas, Textos{});
 }

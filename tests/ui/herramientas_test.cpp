@@ -181,5 +181,5 @@ TEST(Herramientas, RentabilidadDelFicheroALasApuestasElegidas) {
     t.Ficheros = {t.carpeta.Ruta("elegidas.TOM")};
     Pulsar(ventana, "imgGrabarApuestasCR");
     EXPECT_EQ(t.Leer("elegidas.TOM").size(), static_cast<size_t>(elegidas));
-    EXPECT_EQ(t.Cajas, Textos{});
+    EXPECT_EQ(t.Cajas, Textos{"[!] SE HAN GUARDADO " + std::to_string(elegidas) + " APUESTAS"});
 }

@@ -3,8 +3,9 @@
 add_library(tombolera_avisos INTERFACE)
 target_compile_options(tombolera_avisos INTERFACE
     -Wall -Wextra -Wshadow -Wconversion -Wcast-qual -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual
-    # GCC 12 sees overlaps in std::string's own operator+ (its bug 105651).
-    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>
+    # GCC 12 sees overlaps in std::string's own operator+ (its bug 105651) and, behind a precompiled
+    # header, overruns in it too: which files it hits changes with their place on the disk.
+    "$<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict;-Wno-array-bounds;-Wno-stringop-overflow;-Wno-stringop-overread>"
     $<$<BOOL:${TOMBOLERA_ESTRICTO}>:-Werror>)
 if(TOMBOLERA_SANEADORES)
     add_compile_options(-fsanitize=${TOMBOLERA_SANEADORES} -fno-sanitize-recover=all -fno-omit-frame-pointer)
@@ -49,9 +50,6 @@ function(tombolera_prueba nombre)
     add_executable(prueba_${nombre} ${P_FUENTES})
     target_link_libraries(prueba_${nombre} PRIVATE ${P_LIBS} tombolera_apoyo GTest::gtest_main tombolera_avisos
         tombolera_sin_optimar)
-    # Behind a precompiled header GCC 12 also sees overruns in std::string's own operator+.
-    target_compile_options(prueba_${nombre} PRIVATE
-        "$<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-array-bounds;-Wno-stringop-overflow>")
     if(NOT P_PRECOMPILADO_PROPIO)
         if(nombre STREQUAL "core")
             target_precompile_headers(prueba_core PRIVATE <gtest/gtest.h> <filesystem> <functional>)

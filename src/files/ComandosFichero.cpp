@@ -6,28 +6,12 @@
 #include "Bloqueo.h"
 #include "FicheroAtomico.h"
 #include "Ficheros.h"
+#include "TextoApuestas.h"
 #include "modGeneral.h"
 
 namespace {
 
 constexpr int32_t ApuestasSinPreguntar = 3000000;
-constexpr int64_t ApuestasPorBloque = 6000;
-
-bool EscribirLineas(FicheroAtomico& fichero, const Tabla& apuestas, int64_t cantidad, Entorno& entorno) {
-    std::array<std::string, 256> textos;
-    for (size_t n = 0; n < textos.size(); ++n) textos[n] = Formato00(static_cast<int>(n));
-    std::string bloque;
-    for (int64_t i = 1; i <= cantidad; ++i) {
-        for (int r = 1; r <= 6; ++r) bloque += textos[apuestas(r, i)];
-        bloque += "\r\n";
-        if (i % ApuestasPorBloque != 0 && i != cantidad) continue;
-        if (!fichero.Escribir(bloque)) return false;
-        bloque.clear();
-        entorno.CederTurno();
-    }
-    return true;
-}
-
 } // namespace
 
 bool VerApuestas(Sesion& sesion, Entorno& entorno) {
@@ -43,7 +27,8 @@ bool VerApuestas(Sesion& sesion, Entorno& entorno) {
         const Bloqueo bloqueo(trabajo);
         const Tabla& apuestas = trabajo.ApuestasReducidas;
         const int64_t cantidad = std::min<int64_t>(trabajo.Contador.Reducidas, apuestas.Apuestas());
-        escrito = fichero.Abrir(ruta) && EscribirLineas(fichero, apuestas, cantidad, entorno) && fichero.Confirmar();
+        escrito =
+            fichero.Abrir(ruta) && EscribirTextoApuestas(fichero, apuestas, cantidad, entorno) && fichero.Confirmar();
     }
     if (!escrito) return FalloAlGuardar(entorno, fichero.Fallo());
     entorno.VerInforme(ruta);

@@ -6,22 +6,6 @@
 
 namespace {
 
-// The path is the only value that can hold a character with a meaning of its own.
-std::string Escapar(std::string_view texto) {
-    std::string escapado;
-    for (const char c : texto) {
-        if (c == '&')
-            escapado += "&amp;";
-        else if (c == '<')
-            escapado += "&lt;";
-        else if (c == '\'')
-            escapado += "&apos;";
-        else
-            escapado += c;
-    }
-    return escapado;
-}
-
 // Numbers hidden by the game are no part of the base, even if they are marked.
 std::string NumerosMarcados(const EstadoTrabajo& trabajo) {
     auto marcas = trabajo.lblNumero;
@@ -43,7 +27,8 @@ void GenerarCabecera(TextoXML& xml, const Sesion& sesion, Entorno& entorno) {
     xml.Linea("</Combinacion>");
     xml.Linea("<CombinacionGanadora valor='{}' />", TextoValores(sesion.referencia.CombinacionGanadora));
     xml.Linea("<Complementario valor='{}' />", sesion.referencia.Complementario);
-    xml.Linea("<BaseASCII valor='{}' />", Escapar(trabajo.txtFicheroASCII));
+    // The path is the only value that can hold a character with a meaning of its own.
+    xml.Linea("<BaseASCII valor='{}' />", EscaparXML(trabajo.txtFicheroASCII));
 }
 
 void GenerarReduccion(TextoXML& xml, const AjustesReduccion& r) {

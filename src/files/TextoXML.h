@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include <fmt/format.h>
 
@@ -17,6 +18,9 @@ struct TextoXML {
         Texto += "\r\n";
     }
 };
+
+/// The text as a value in single quotes: `&`, `<` and `'` are escaped, nothing else.
+std::string EscaparXML(std::string_view texto);
 
 /// All values from `primero` on, joined by ","; decimals in their shortest form, with ".".
 template <class Valores>

@@ -16,22 +16,6 @@ constexpr int64_t BytesMaximos = int64_t{1} << 20; // a prize file has about one
 constexpr std::array<std::string_view, NCategoriasPremio> Elementos{"Premios_De6", "Premios_De5C", "Premios_De5",
                                                                     "Premios_De4", "Premios_De3"};
 
-// The boxes hold figures, but what is pasted into them may be anything.
-std::string Escapar(std::string_view texto) {
-    std::string escapado;
-    for (const char c : texto) {
-        if (c == '&')
-            escapado += "&amp;";
-        else if (c == '<')
-            escapado += "&lt;";
-        else if (c == '\'')
-            escapado += "&apos;";
-        else
-            escapado += c;
-    }
-    return escapado;
-}
-
 // Reads a draw over what `premios` holds. An empty value is one that was left empty when it was saved.
 class LecturaSorteo {
   public:
@@ -114,13 +98,14 @@ std::string LogicaCalculadoraPremios::GenerarPremiosXML() const {
               ahora.Anio, ahora.Hora, ahora.Minuto, ahora.Segundo);
     xml.Linea("<Programa nombre='TOMBOLERA' version='11.1' />");
     xml.Linea("<Sorteos>");
-    xml.Linea("<Sorteo anio='{}' numero='{}' dia='{}'>", Escapar(txtAnio), Escapar(txtNumeroSorteo),
+    // The boxes hold figures, but what is pasted into them may be anything.
+    xml.Linea("<Sorteo anio='{}' numero='{}' dia='{}'>", EscaparXML(txtAnio), EscaparXML(txtNumeroSorteo),
               cboDia < 0 ? std::string_view() : LetrasDia.substr(static_cast<size_t>(cboDia), 1));
     xml.Linea("<NumerosGanadores valor='{}' />", TextoValores(sorteo.CombinacionGanadora));
     xml.Linea("<Complementario valor='{}' />", sorteo.Complementario);
     for (size_t c = 0; c < NCategoriasPremio; ++c)
-        xml.Linea("<{} numeroPremios='{}' euros='{}' />", Elementos[c], Escapar(txtCalculadoraPremios[c]),
-                  Escapar(txtCalculadoraEuros[c]));
+        xml.Linea("<{} numeroPremios='{}' euros='{}' />", Elementos[c], EscaparXML(txtCalculadoraPremios[c]),
+                  EscaparXML(txtCalculadoraEuros[c]));
     xml.Linea("</Sorteo>");
     xml.Linea("</Sorteos>");
     xml.Linea("</BASE>");

@@ -9,13 +9,14 @@
 #include "Boleto.h"
 #include "Ficheros.h"
 #include "GuardarSistema.h"
+#include "Mientras.h"
 #include "Rnd.h"
 #include "modCSN.h"
 #include "modGeneral.h"
 
 namespace {
 
-constexpr int32_t ApuestasPorTurno = 4000;
+constexpr int32_t ApuestasPorTurno = 500;
 
 // Every place is swapped with any other, once; so each order can come up, and all of the total are
 // shuffled though only some may be asked for.
@@ -52,13 +53,6 @@ std::string ErrorMasQueElTotal(int32_t total) {
            "(tiene " +
            std::to_string(total) + " apuestas)";
 }
-
-// Sets a flag while it lives.
-struct Mientras {
-    explicit Mientras(bool& bandera) : bandera_(bandera) { bandera_ = true; }
-    ~Mientras() { bandera_ = false; }
-    bool& bandera_;
-};
 
 } // namespace
 

@@ -11,6 +11,7 @@
 #include "Ficheros.h"
 #include "GuardarSistema.h"
 #include "LogicaGeneradorApuestas.h"
+#include "Mientras.h"
 #include "Rnd.h"
 #include "modGeneral.h"
 
@@ -127,16 +128,13 @@ bool LogicaGeneradorApuestasXPorcentaje::cmdGenerar() {
                          "MAS APUESTAS");
         const std::string ruta = PedirRutaSistema(std::to_string(pedidas) + "_Apuestas.TOM", entorno);
         if (ruta.empty()) return false;
-        Generando = true;
+        const Mientras generando(Generando);
         Tabla apuestas(7, pedidas);
-        const bool hecho = RepartirTodas(reparto, apuestas, entorno)
-                               ? GuardarSistema(ruta, CabeceraDe(cboPorcentaje, trabajo.NumeroMaximo()), apuestas,
-                                                trabajo, lblProgressBar, entorno)
-                               : Fallo(entorno, "ERROR: NO QUEDAN NUMEROS SIN PORCENTAJE PARA COMPLETAR LAS APUESTAS");
-        Generando = false;
-        return hecho;
+        if (!RepartirTodas(reparto, apuestas, entorno))
+            return Fallo(entorno, "ERROR: NO QUEDAN NUMEROS SIN PORCENTAJE PARA COMPLETAR LAS APUESTAS");
+        return GuardarSistema(ruta, CabeceraDe(cboPorcentaje, trabajo.NumeroMaximo()), apuestas, trabajo,
+                              lblProgressBar, entorno);
     } catch (const std::bad_alloc&) {
-        Generando = false;
         return FalloAlGuardar(entorno, DescripcionFallo(ENOMEM));
     }
 }

@@ -7,6 +7,7 @@
 
 #include "CopiarTabla.h"
 #include "MarcoFiltro.h"
+#include "PiezasEscrutinio.h"
 #include "Pintores.h"
 #include "SoltarFicheros.h"
 #include "TextoQt.h"
@@ -33,14 +34,6 @@ QLabel* CrearDato(std::string_view nombre, std::string_view accesible) {
     dato->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     dato->setMinimumWidth(dato->fontMetrics().horizontalAdvance(Q("13.983.816")) + 4);
     return dato;
-}
-
-QComboBox* CrearLista(std::string_view nombre, std::string_view ayuda) {
-    auto* lista = new QComboBox;
-    lista->setObjectName(Q(nombre));
-    lista->setAccessibleName(Q(ayuda));
-    lista->setToolTip(Q(ayuda));
-    return lista;
 }
 
 // Paper and print of the ticket for a number of the base.
@@ -221,22 +214,17 @@ void frmEscrutar::CrearResultados(QBoxLayout& donde) {
 }
 
 void frmEscrutar::CrearPie(QVBoxLayout& caja) {
-    auto* pie = new QHBoxLayout;
-    pie->setContentsMargins(0, Paso, 0, 0);
-    auto* escrutar = CrearBoton("imgEscrutar", "Escrutar", "Comprobar las apuestas con el sorteo",
-                                [this] { Hacer([this] { logica.EscrutarSistema(); }); });
-    escrutar->setDefault(true);
-    pie->addWidget(escrutar);
-    pie->addWidget(CrearBoton("imgVerBoletosPremiados", "Ver Boletos Premiados",
-                              "Escrutar y ver los boletos premiados en un informe",
-                              [this] { Hacer([this] { logica.imgVerBoletosPremiados(); }); }));
-    pie->addWidget(CrearBoton("imgCalculadoraPremios", "Calculadora de Premios", "Pasar los aciertos a euros",
-                              [this] { AbrirCalculadora(); }));
-    pie->addWidget(CrearBoton("cmdCopiar", "Copiar", "Copiar los resultados como una tabla",
-                              [this] { QApplication::clipboard()->setText(Q(logica.Copiar())); }));
-    pie->addStretch();
-    pie->addWidget(CrearBoton("imgVolver", "Cerrar", "Cerrar el escrutinio", [this] { close(); }));
-    caja.addLayout(pie);
+    CrearPieEscrutinio(caja,
+                       {CrearBoton("imgEscrutar", "Escrutar", "Comprobar las apuestas con el sorteo",
+                                   [this] { Hacer([this] { logica.EscrutarSistema(); }); }),
+                        CrearBoton("imgVerBoletosPremiados", "Ver Boletos Premiados",
+                                   "Escrutar y ver los boletos premiados en un informe",
+                                   [this] { Hacer([this] { logica.imgVerBoletosPremiados(); }); }),
+                        CrearBoton("imgCalculadoraPremios", "Calculadora de Premios", "Pasar los aciertos a euros",
+                                   [this] { AbrirCalculadora(); }),
+                        CrearBoton("cmdCopiar", "Copiar", "Copiar los resultados como una tabla",
+                                   [this] { CopiarComoTabla(logica.Copiar()); })},
+                       CrearBoton("imgVolver", "Cerrar", "Cerrar el escrutinio", [this] { close(); }));
 }
 
 void frmEscrutar::Hacer(const std::function<void()>& accion) {

@@ -33,14 +33,6 @@ QWidget* CrearRotulos(const QPlainTextEdit& texto) {
     return fila;
 }
 
-QComboBox* CrearLista(std::string_view nombre, std::string_view ayuda) {
-    auto* lista = new QComboBox;
-    lista->setObjectName(Q(nombre));
-    lista->setAccessibleName(Q(ayuda));
-    lista->setToolTip(Q(ayuda));
-    return lista;
-}
-
 } // namespace
 
 frmMultiEscrutinioEstadistico::frmMultiEscrutinioEstadistico(Sesion& sesion, Entorno& entorno, QWidget* padre)
@@ -158,21 +150,16 @@ void frmMultiEscrutinioEstadistico::CrearResultados(QBoxLayout& donde) {
 }
 
 void frmMultiEscrutinioEstadistico::CrearPie(QBoxLayout& caja) {
-    auto* pie = new QHBoxLayout;
-    pie->setContentsMargins(0, Paso, 0, 0);
-    auto* escrutar = CrearBoton("cmdEscrutar", "Escrutar", "Escrutar las apuestas en los sorteos de la consulta",
-                                [this] { Hacer([this] { logica.cmdEscrutar(); }); });
-    escrutar->setDefault(true);
-    pie->addWidget(escrutar);
-    pie->addWidget(CrearBoton("imgVerInforme", "Ver Informe en Bloc de Notas",
-                              "Muestra en el Bloc de Notas el informe completo",
-                              [this] { Hacer([this] { logica.imgVerInforme(); }); }));
     imgCopiar = CrearBoton("imgCopiar", "Copiar tabla", "Copiar los sorteos escrutados como una tabla",
                            [this] { CopiarComoTabla(TablaGanado(logica.Ganado, logica.entorno)); });
-    pie->addWidget(imgCopiar);
-    pie->addStretch();
-    pie->addWidget(CrearBoton("imgVolver", "Cerrar", "Cerrar el escrutinio", [this] { close(); }));
-    caja.addLayout(pie);
+    CrearPieEscrutinio(
+        caja,
+        {CrearBoton("cmdEscrutar", "Escrutar", "Escrutar las apuestas en los sorteos de la consulta",
+                    [this] { Hacer([this] { logica.cmdEscrutar(); }); }),
+         CrearBoton("imgVerInforme", "Ver Informe en Bloc de Notas", "Muestra en el Bloc de Notas el informe completo",
+                    [this] { Hacer([this] { logica.imgVerInforme(); }); }),
+         imgCopiar},
+        CrearBoton("imgVolver", "Cerrar", "Cerrar el escrutinio", [this] { close(); }));
 }
 
 void frmMultiEscrutinioEstadistico::Hacer(const std::function<void()>& accion) {

@@ -9,7 +9,7 @@
 
 #include "FilaFichero.h"
 #include "LogicaMultiEscrutinioEstadistico.h"
-#include "PiezasMulti.h"
+#include "PiezasEscrutinio.h"
 
 class frmMultiEscrutinioEstadistico final : public QDialog {
   public:

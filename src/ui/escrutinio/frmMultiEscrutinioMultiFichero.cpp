@@ -109,20 +109,15 @@ void frmMultiEscrutinioMultiFichero::CrearResultados(QBoxLayout& donde) {
 }
 
 void frmMultiEscrutinioMultiFichero::CrearPie(QBoxLayout& caja) {
-    auto* pie = new QHBoxLayout;
-    pie->setContentsMargins(0, Paso, 0, 0);
-    auto* escrutar = CrearBoton("imgEscrutar", "Escrutar", "Escrutar todos los ficheros de la lista",
-                                [this] { Hacer([this] { logica.imgEscrutar(); }); });
-    escrutar->setDefault(true);
-    pie->addWidget(escrutar);
-    pie->addWidget(CrearBoton("imgVerInformeResumenPremios", "Ver Informe", "Ver el resultado en un informe",
-                              [this] { Hacer([this] { logica.imgVerInformeResumenPremios(); }); }));
     imgCopiar = CrearBoton("imgCopiar", "Copiar tabla", "Copiar los ficheros y sus aciertos como una tabla",
                            [this] { CopiarComoTabla(TablaEscrutados(logica.Escrutados)); });
-    pie->addWidget(imgCopiar);
-    pie->addStretch();
-    pie->addWidget(CrearBoton("imgVolver", "Volver", "Cerrar el escrutinio", [this] { close(); }));
-    caja.addLayout(pie);
+    CrearPieEscrutinio(caja,
+                       {CrearBoton("imgEscrutar", "Escrutar", "Escrutar todos los ficheros de la lista",
+                                   [this] { Hacer([this] { logica.imgEscrutar(); }); }),
+                        CrearBoton("imgVerInformeResumenPremios", "Ver Informe", "Ver el resultado en un informe",
+                                   [this] { Hacer([this] { logica.imgVerInformeResumenPremios(); }); }),
+                        imgCopiar},
+                       CrearBoton("imgVolver", "Volver", "Cerrar el escrutinio", [this] { close(); }));
 }
 
 void frmMultiEscrutinioMultiFichero::Hacer(const std::function<void()>& accion) {

@@ -8,7 +8,7 @@
 
 #include "FilaFichero.h"
 #include "LogicaMultiEscrutinioMultiFichero.h"
-#include "PiezasMulti.h"
+#include "PiezasEscrutinio.h"
 
 class QGridLayout;
 

@@ -4,6 +4,7 @@
 
 #include "BarraProgreso.h"
 #include "MarcoFiltro.h"
+#include "Mientras.h"
 #include "PieHerramienta.h"
 #include "SoltarFicheros.h"
 #include "TextoQt.h"
@@ -142,10 +143,11 @@ void frmSistemasPropios::RellenarListas() {
 }
 
 void frmSistemasPropios::Trabajar(const std::function<void()>& accion) {
-    ocupada = true;
-    Pintar();
-    accion();
-    ocupada = false;
+    {
+        const Mientras trabajando(ocupada);
+        Pintar();
+        accion();
+    }
     RellenarListas();
     Pintar();
 }

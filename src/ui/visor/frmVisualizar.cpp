@@ -6,6 +6,7 @@
 #include "FiltroTeclas.h"
 #include "ImprimirBoletos.h"
 #include "MarcoFiltro.h"
+#include "Mientras.h"
 #include "PieHerramienta.h"
 #include "SoltarFicheros.h"
 #include "TextoQt.h"
@@ -134,10 +135,11 @@ QHBoxLayout* frmVisualizar::CrearImpresion() {
 }
 
 void frmVisualizar::Trabajar(const std::function<void()>& accion) {
-    ocupada = true;
-    Pintar();
-    accion();
-    ocupada = false;
+    {
+        const Mientras trabajando(ocupada);
+        Pintar();
+        accion();
+    }
     Pintar();
 }
 

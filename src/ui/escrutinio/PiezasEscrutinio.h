@@ -1,15 +1,23 @@
-// What the two windows of many draws share: fixed-pitch results and the panel of a run.
+// What the windows of the scrutiny share: lists, feet, fixed-pitch results and the panel of a run.
 #pragma once
 
 #include <QBoxLayout>
+#include <QComboBox>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <string_view>
+
+/// An empty list.
+QComboBox* CrearLista(std::string_view nombre, std::string_view ayuda);
+
+/// The foot: the window's commands, the first its main one, and `imgVolver`.
+void CrearPieEscrutinio(QBoxLayout& caja, std::initializer_list<QPushButton*> ordenes, QPushButton* imgVolver);
 
 /// Results of the system as text that can be read and selected.
 QPlainTextEdit* CrearTextoFijo(std::string_view nombre, std::string_view accesible);

@@ -1,4 +1,4 @@
-#include "PiezasMulti.h"
+#include "PiezasEscrutinio.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -7,6 +7,24 @@
 #include "BarraProgreso.h"
 #include "MarcoFiltro.h"
 #include "TextoQt.h"
+
+QComboBox* CrearLista(std::string_view nombre, std::string_view ayuda) {
+    auto* lista = new QComboBox;
+    lista->setObjectName(Q(nombre));
+    lista->setAccessibleName(Q(ayuda));
+    lista->setToolTip(Q(ayuda));
+    return lista;
+}
+
+void CrearPieEscrutinio(QBoxLayout& caja, std::initializer_list<QPushButton*> ordenes, QPushButton* imgVolver) {
+    auto* pie = new QHBoxLayout;
+    pie->setContentsMargins(0, Paso, 0, 0);
+    for (QPushButton* orden : ordenes) pie->addWidget(orden);
+    (*ordenes.begin())->setDefault(true);
+    pie->addStretch();
+    pie->addWidget(imgVolver);
+    caja.addLayout(pie);
+}
 
 QPlainTextEdit* CrearTextoFijo(std::string_view nombre, std::string_view accesible) {
     auto* texto = new QPlainTextEdit;

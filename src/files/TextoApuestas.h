@@ -5,7 +5,11 @@
 #include <string>
 
 #include "Entorno.h"
+#include "FicheroAtomico.h"
 #include "Tabla.h"
+
+/// Writes the first `cantidad` bets of a table of real numbers, and yields every 6000.
+bool EscribirTextoApuestas(FicheroAtomico& fichero, const Tabla& apuestas, int64_t cantidad, Entorno& entorno);
 
 /// Saves the bets of a table of real numbers. A failure shows its box, keeps a file that was there
 /// and gives false.

@@ -8,6 +8,7 @@
 #include "GuardarCombinacion.h"
 #include "ImportarCombinacion.h"
 #include "LogicaFiltroSORTEOSANTERIORES.h"
+#include "MejorarReduccion.h"
 #include "Ordenes.h"
 #include "Reduccion.h"
 #include "RespuestaGuardada.h"
@@ -21,6 +22,7 @@ struct ArgumentosCalcular {
     std::string Base, Importar, Sorteos, Guardar, Texto, Condicionadas;
     bool Reintegros = false;
     int32_t Ciclos = 0, Segundos = 0; ///< ends of a reduction, 0 where none was given
+    int32_t Mejorar = 0, MejorarPasos = 0, MejorarSemilla = 1;
     bool Json = false;
 };
 
@@ -85,7 +87,11 @@ bool Calcular(Lote& lote, const ArgumentosCalcular& argumentos) {
         if (!ImportarFichero(argumentos.Importar, lote.sesion, lote.entorno)) return false;
     }
     if (!argumentos.Sorteos.empty() && !CargarSorteos(lote, argumentos.Sorteos)) return false;
-    PrepararReduccion(lote, {argumentos.Ciclos, argumentos.Segundos});
+    const bool mejorar = argumentos.Mejorar > 0 || argumentos.MejorarPasos > 0;
+    if (mejorar && !ReduccionMejorable(lote.sesion, lote.entorno)) return false;
+    const FinesMejora mejora{static_cast<double>(argumentos.Mejorar), argumentos.MejorarPasos,
+                             static_cast<uint64_t>(argumentos.MejorarSemilla)};
+    PrepararReduccion(lote, {argumentos.Ciclos, argumentos.Segundos, mejorar, mejora});
     if (!CalcularSistema(lote.sesion, lote.entorno)) return false;
     const bool guardado = GuardarFicheros(lote, argumentos);
     lote.salida.Escribir(argumentos.Json ? CuentasComoJson(lote.sesion, lote.Ciclos)
@@ -109,6 +115,11 @@ void DeclararCalcular(CLI::App& programa, Lote& lote) {
     Entero(orden, "--ciclos", argumentos->Ciclos, 1, "Ciclos de una reducción que no acaba por sí sola; si falta, 1");
     Entero(orden, "--segundos", argumentos->Segundos, 1,
            "Segundos de esa reducción, en lugar de los ciclos o con ellos");
+    Entero(orden, "--mejorar", argumentos->Mejorar, 1,
+           "Segundos que después busca un sistema más pequeño con la misma garantía");
+    Entero(orden, "--mejorar-pasos", argumentos->MejorarPasos, 1,
+           "Pasos de esa búsqueda, en lugar de los segundos o con ellos: se repite igual");
+    Entero(orden, "--mejorar-semilla", argumentos->MejorarSemilla, 1, "Semilla de esa búsqueda; si falta, 1");
     Fichero(orden, "--guardar", argumentos->Guardar, "Graba el sistema final, y a su lado su fichero base");
     Fichero(orden, "--texto", argumentos->Texto, "Escribe las apuestas finales, doce cifras por línea");
     Fichero(orden, "--condicionadas", argumentos->Condicionadas, "Escribe igual las apuestas condicionadas");

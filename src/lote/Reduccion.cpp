@@ -2,10 +2,21 @@
 
 #include <fmt/format.h>
 
-#include "LogicaVentanaProceso.h"
 #include "Parada.h"
 
 namespace {
+
+// The ends of the reduction are not those of what follows it.
+void Mejorar(LogicaVentanaProceso& ventana, Lote& lote, FinesMejora fines) {
+    ventana.TopeCiclos = ventana.TopeSegundos = 0;
+    ventana.finesMejora = fines;
+    lote.entorno.CederTurno = [&] {
+        lote.consola.Progreso(
+            [&] { return fmt::format("Mejora {:.0f} s, {} apuestas", ventana.SegundosMejora, ventana.lblApuestasVP); });
+        if (ParadaPedida()) ventana.Detener();
+    };
+    ventana.Mejorar();
+}
 
 void Correr(LogicaVentanaProceso& ventana, Lote& lote, FinesReduccion fines) {
     ventana.TopeSegundos = fines.Segundos;
@@ -19,6 +30,7 @@ void Correr(LogicaVentanaProceso& ventana, Lote& lote, FinesReduccion fines) {
         if (ParadaPedida()) ventana.Detener();
     };
     ventana.Activar();
+    if (fines.Mejorar && !ParadaPedida()) Mejorar(ventana, lote, fines.Mejora);
     lote.entorno.CederTurno = cederTurno;
 }
 

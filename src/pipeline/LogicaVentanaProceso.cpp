@@ -1,6 +1,7 @@
 #include "LogicaVentanaProceso.h"
 
 #include <algorithm>
+#include <bit>
 #include <exception>
 #include <new>
 #include <numeric>
@@ -9,6 +10,7 @@
 #include "ContarNumeros.h"
 #include "GenerarApuestas.h"
 #include "InformePorcentajes.h"
+#include "MejorarReduccion.h"
 #include "ReducirPorCobertura.h"
 #include "ReducirSecuencial.h"
 #include "Supervivientes.h"
@@ -60,7 +62,7 @@ void LogicaVentanaProceso::VerPorcentajes() {
 
 void LogicaVentanaProceso::Habilitar(bool corriendo) {
     Corriendo = imgDetener = corriendo;
-    imgCalcular = imgVolver = imgCalculoDefinitivo = imgVerPorcentajes = imgGarantias = !corriendo;
+    imgCalcular = imgVolver = imgCalculoDefinitivo = imgVerPorcentajes = imgGarantias = imgMejorar = !corriendo;
 }
 
 // However the run ends, the best system found so far stands and the window is idle again.
@@ -69,17 +71,37 @@ void LogicaVentanaProceso::Correr() {
     lblCiclos = "0";
     lblProgressBar = 0;
     Hallazgos.clear();
-    try {
+    Protegido([this] {
         Reducir();
         Ajustar();
+    });
+    lblProgressBar = 0;
+    detener = true;
+    Habilitar(false);
+}
+
+// Whatever it has reached when the memory runs out stands.
+void LogicaVentanaProceso::Protegido(const std::function<void()>& trabajo) {
+    try {
+        trabajo();
     } catch (const std::bad_alloc&) {
         Fallo(entorno, "ERROR: no hay memoria suficiente");
     } catch (const std::exception& error) {
         Fallo(entorno, std::string("ERROR: ") + error.what());
     }
-    lblProgressBar = 0;
+}
+
+bool LogicaVentanaProceso::Mejorar() {
+    if (Corriendo || !ReduccionMejorable(sesion, entorno)) return false;
+    if (sesion.trabajo.Contador.Reducidas == 0)
+        return Fallo(entorno, "ERROR: No hay ningún sistema reducido que mejorar");
+    Habilitar(true);
+    detener = false;
+    Protegido([this] { MejorarReduccion(*this); });
     detener = true;
+    PorcentajesDespues();
     Habilitar(false);
+    return true;
 }
 
 void LogicaVentanaProceso::Reducir() {
@@ -197,6 +219,20 @@ void LogicaVentanaProceso::TomarMejor(const std::vector<int32_t>& elegidas, doub
     MejorApuestas = n;
     Hallazgos.push_back({ciclo, n});
     MostrarReducidas(n);
+}
+
+void LogicaVentanaProceso::TomarMejorado(const std::vector<uint64_t>& sistema) {
+    EstadoTrabajo& trabajo = sesion.trabajo;
+    Tabla nueva(7, static_cast<int64_t>(sistema.size()));
+    int64_t i = 0;
+    for (uint64_t mascara : sistema) {
+        ++i;
+        for (int r = 1; mascara != 0; ++r, mascara &= mascara - 1)
+            nueva(r, i) = trabajo.BaseNumeros[std::countr_zero(mascara) + 1];
+    }
+    trabajo.ApuestasReducidas = std::move(nueva);
+    MejorApuestas = static_cast<int32_t>(sistema.size());
+    MostrarReducidas(MejorApuestas);
 }
 
 bool LogicaVentanaProceso::BastaElMejor() const {

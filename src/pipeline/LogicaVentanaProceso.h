@@ -10,6 +10,13 @@
 #include "Rnd.h"
 #include "Sesion.h"
 
+/// Ends of the search for a smaller system, 0 for none, and the seed of its chances.
+struct FinesMejora {
+    double Segundos = 0;
+    int64_t Pasos = 0;
+    uint64_t Semilla = 1;
+};
+
 struct LogicaVentanaProceso {
     LogicaVentanaProceso(Sesion& s, Entorno& e) : sesion(s), entorno(e) {}
 
@@ -23,7 +30,7 @@ struct LogicaVentanaProceso {
     std::array<std::string, NumeroMaximoBoleto + 1> lblN;          ///< by number; empty above `NumeroMaximo`
     std::array<bool, NumeroMaximoBoleto + 1> lblNConApuestas{};    ///< coloured: some bet holds the number
     bool imgDetener = false, imgCalcular = true, imgVolver = true; ///< what is enabled
-    bool imgCalculoDefinitivo = true, imgVerPorcentajes = true, imgGarantias = true;
+    bool imgCalculoDefinitivo = true, imgVerPorcentajes = true, imgGarantias = true, imgMejorar = true;
     bool Corriendo = false;
     bool Cerrada = false; ///< the window is asked to close
 
@@ -38,6 +45,12 @@ struct LogicaVentanaProceso {
 
     // Ends of a run without a user at the window; 0 for none. The second counts once a system stands.
     double TopeCiclos = 0, TopeSegundos = 0;
+
+    // The search for a smaller system.
+    FinesMejora finesMejora;
+    int32_t Cota = 0; ///< no system with the guarantee is smaller; 0 while unknown
+    int64_t PasosMejora = 0;
+    double SegundosMejora = 0;
 
     // The fields of one run.
     bool detener = true;
@@ -62,6 +75,10 @@ struct LogicaVentanaProceso {
     void CalculoDefinitivo();
 
     void Volver();
+
+    /// `imgMejorar`: looks for a smaller system with the same guarantee until it is stopped. Each one found
+    /// stands as the reduced system. False after a box.
+    bool Mejorar();
 
     /// The frame's own close button: always refused, because only the two buttons lead out.
     bool PuedeCerrar() const { return Cerrada; }
@@ -90,6 +107,9 @@ struct LogicaVentanaProceso {
     /// from 0, in order. `ascendentes`: numbers that stand out of order within a bet are put in order.
     void TomarMejor(const std::vector<int32_t>& elegidas, double ciclo, bool ascendentes);
 
+    /// Takes a better system than the one that stands: masks of its bets, bit p - 1 for position p.
+    void TomarMejorado(const std::vector<uint64_t>& sistema);
+
     /// Whether the mode by number of bets has what it asked for, or no system can be smaller.
     bool BastaElMejor() const;
 
@@ -102,6 +122,7 @@ struct LogicaVentanaProceso {
     void MostrarReducidas(int32_t apuestas);
     void Ajustar();
     void Correr();
+    void Protegido(const std::function<void()>& trabajo);
     void Reducir();
     void ReconstruirTablas();
     void TomarAjustes();

@@ -159,6 +159,29 @@ TEST_F(Calcular, LaReduccionSinFinHaceLosCiclosPedidos) {
     }
 }
 
+// The 28 bets of eight numbers al 5 take four; one cycle finds five or more.
+TEST_F(Calcular, MejoraElSistemaAntesDeGrabarlo) {
+    ActivarReduccion();
+    const Resultado r = Ejecutar({"calcular", "base.xml", "--mejorar-pasos", "3000", "--texto", "f.txt"});
+    EXPECT_NE(r.Salida.find("\nReducidas: 4\n"), std::string::npos) << r.Salida << r.Errores;
+    EXPECT_EQ(Escrito("f.txt").size(), 4u * 14);
+    const std::string antes = Escrito("f.txt");
+    Ejecutar({"calcular", "base.xml", "--mejorar-pasos", "3000", "--texto", "f.txt"});
+    EXPECT_EQ(Escrito("f.txt"), antes);
+}
+
+TEST_F(Calcular, MejorarPideUnaReduccionConGarantia) {
+    const Resultado sin = Ejecutar({"calcular", "base.xml", "--mejorar", "1"});
+    EXPECT_EQ(sin.Errores, "ERROR: No hay ninguna reducción que mejorar\n");
+    EXPECT_EQ(sin.Estado, 1);
+    ActivarReduccion();
+    guion.sesion.trabajo.Reduccion.ActivarNumeroApuestas = guion.sesion.trabajo.Reduccion.ApuestasExactas = 1;
+    guion.sesion.trabajo.Reduccion.NApuestasExactas = 6;
+    const Resultado exacto = Ejecutar({"calcular", "base.xml", "--mejorar", "1"});
+    EXPECT_EQ(exacto.Errores, "ERROR: No se puede mejorar un sistema con un número exacto de apuestas\n");
+    EXPECT_EQ(exacto.Salida, "");
+}
+
 // The progress line of the terminal tells when a system stands; then the user stops.
 TEST_F(Calcular, InterrumpidaGuardaElMejorSistema) {
     ActivarReduccion();

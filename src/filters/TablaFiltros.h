@@ -6,11 +6,16 @@
 #include <string_view>
 
 #include "Entorno.h"
+#include "Reparto.h"
 #include "Sesion.h"
 
 /// Marks in `ApuestaEliminada` the live bets of `TablaApuestas` that the filter rejects and returns
 /// how many it marked. Yields every 4000 bets; shows no messages; cannot be stopped.
 using Evaluador = int32_t (*)(Sesion&, Entorno&);
+
+/// The spread of the live bets of `TablaApuestas`, whose flags are those of `EstadoApuesta` after the
+/// evaluator. Yields as it does.
+using Repartidor = std::vector<ApartadoReparto> (*)(Sesion&, Entorno&);
 
 struct DescripcionFiltro {
     std::string_view nombre;   ///< in the base file
@@ -21,6 +26,7 @@ struct DescripcionFiltro {
     std::string_view Bloques;  ///< name given to TextoBloquesUsados, empty for a filter without blocks
     bool ParaEurodreams;       ///< false for those that depend on the ticket of 49
     Evaluador Filtrar;
+    Repartidor Repartir;
 };
 
 /// Row k of the list is entry k; this is also the order of evaluation.

@@ -1,7 +1,6 @@
 #include "RepartirPorCR.h"
 
 #include <algorithm>
-#include <numeric>
 
 #include "CuentaBytes.h"
 #include "PrepararCoeficiente.h"
@@ -14,9 +13,7 @@ TablasCoeficiente Preparar(const PorcentajesPorNumero& apostados, const Porcenta
     TablasCoeficiente tablas;
     std::copy(apostados.begin(), apostados.end(), tablas.Apostado.begin());
     std::copy(reales.begin(), reales.end(), tablas.Real.begin());
-    std::array<uint8_t, ValoresCR> propias;
-    std::iota(propias.begin(), propias.end(), uint8_t{0});
-    PrepararCoeficiente(tablas, apostados.size() - 1, propias);
+    PrepararCoeficiente(tablas, apostados.size() - 1, LaMismaClase);
     return tablas;
 }
 

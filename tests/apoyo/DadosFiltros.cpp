@@ -11,6 +11,8 @@
 
 #include "Boleto.h"
 #include "Guion.h"
+#include "modCSN.h"
+#include "modGeneral.h"
 
 namespace {
 
@@ -56,34 +58,53 @@ int32_t Comparar(const CasoEvaluador& caso, const Sesion& inicial, Entorno& ento
     return eliminadas;
 }
 
-// The vector code of one processor against the literal version, over several systems.
-void CompararEn(const CasoEvaluador& caso, int64_t procesador, int64_t& visitadas, int64_t& eliminadas) {
-    SCOPED_TRACE(hwy::TargetName(procesador));
-    hwy::SetSupportedTargetsForTest(procesador);
-    for (uint64_t semilla = 1; semilla <= 25 && !testing::Test::HasFailure(); ++semilla) {
-        SCOPED_TRACE(semilla);
-        Guion guion;
-        Dados s;
-        s.azar.Sembrar(semilla);
-        SortearBase(s, guion.sesion.trabajo);
-        SortearApuestas(s, guion.sesion.trabajo);
-        caso.sortear(s, guion.sesion.condiciones);
-        eliminadas += Comparar(caso, guion.sesion, guion.entorno);
-        visitadas += guion.sesion.trabajo.ApuestasEnTabla;
-    }
-    hwy::SetSupportedTargetsForTest(0);
-}
-
 } // namespace
 
 void PrintTo(const CasoEvaluador& caso, std::ostream* salida) {
     *salida << caso.nombre;
 }
 
+void SortearSistema(Dados& s, EstadoTrabajo& trabajo) {
+    SortearBase(s, trabajo);
+    SortearApuestas(s, trabajo);
+}
+
+void Expandir(EstadoTrabajo& trabajo, int16_t n) {
+    std::fill_n(trabajo.lblNumero.begin() + 1, n, true);
+    LeerBase(trabajo);
+    trabajo.ApuestasEnTabla = static_cast<int32_t>(Combinaciones(n, 6));
+    trabajo.TablaApuestas.Dimensionar(6, trabajo.ApuestasEnTabla);
+    trabajo.ApuestaEliminada.Dimensionar(1, trabajo.ApuestasEnTabla);
+    std::array<uint8_t, 6> apuesta;
+    for (int32_t i = 1; i <= trabajo.ApuestasEnTabla; ++i) {
+        CSNaCombinacion(i, 6, n, apuesta.data());
+        for (int r = 1; r <= 6; ++r) trabajo.TablaApuestas(r, i) = apuesta[static_cast<size_t>(r - 1)];
+    }
+}
+
+void EnCadaProcesador(const std::function<void()>& probar) {
+    for (const int64_t procesador : hwy::SupportedAndGeneratedTargets()) {
+        SCOPED_TRACE(hwy::TargetName(procesador));
+        hwy::SetSupportedTargetsForTest(procesador);
+        probar();
+        hwy::SetSupportedTargetsForTest(0);
+    }
+}
+
 void CompararConLiteral(const CasoEvaluador& caso) {
     int64_t visitadas = 0, eliminadas = 0;
-    for (const int64_t procesador : hwy::SupportedAndGeneratedTargets())
-        CompararEn(caso, procesador, visitadas, eliminadas);
+    EnCadaProcesador([&] {
+        for (uint64_t semilla = 1; semilla <= 25 && !testing::Test::HasFailure(); ++semilla) {
+            SCOPED_TRACE(semilla);
+            Guion guion;
+            Dados s;
+            s.azar.Sembrar(semilla);
+            SortearSistema(s, guion.sesion.trabajo);
+            caso.sortear(s, guion.sesion.condiciones);
+            eliminadas += Comparar(caso, guion.sesion, guion.entorno);
+            visitadas += guion.sesion.trabajo.ApuestasEnTabla;
+        }
+    });
     EXPECT_GT(eliminadas, visitadas / 50);
     EXPECT_LT(eliminadas, visitadas * 49 / 50);
 }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <functional>
 #include <iosfwd>
 
 #include "Rnd.h"
@@ -42,6 +43,17 @@ struct CasoEvaluador {
     int32_t (*literal)(Sesion&);
     void (*sortear)(Dados&, Condiciones&);
 };
+
+/// A random base and bets of it, a fifth of them dead; some bets come in any order, as an imported file
+/// may bring them.
+void SortearSistema(Dados& s, EstadoTrabajo& trabajo);
+
+/// All bets of the numbers 1 to `n`, in order and alive.
+void Expandir(EstadoTrabajo& trabajo, int16_t n);
+
+/// Runs `probar` with the vector code of each processor that it is compiled for and this machine has,
+/// the scalar twins among them.
+void EnCadaProcesador(const std::function<void()>& probar);
 
 void PrintTo(const CasoEvaluador& caso, std::ostream* salida);
 

@@ -1,90 +1,17 @@
 // The evaluator of earlier draws, each of its ways against the literal loop.
 #include <algorithm>
-#include <cstring>
 
-#include "Objetivos.h"
 #include <gtest/gtest.h>
 
-#include <hwy/targets.h>
-
-#include "Boleto.h"
-#include "DadosFiltros.h"
+#include "CasosFiltros.h"
 #include "Evaluadores.h"
 #include "FiltroSorteosLiteral.h"
 #include "Guion.h"
 #include "SorteosAnteriores.h"
-#include "modCSN.h"
-#include "modGeneral.h"
 
 namespace {
 
 constexpr int16_t Anio = 2023;
-
-// Numbers as they were drawn, a few of them what only a broken answer could bring.
-Sorteo SorteoAlAzar(Dados& s) {
-    Sorteo sorteo;
-    const bool raro = s.UnaDe(12);
-    for (size_t j = 0; j < sorteo.numeros.size(); ++j) {
-        do {
-            sorteo.numeros[j] =
-                static_cast<uint8_t>(raro ? s.UnaDe(3) ? s.Entre(0, 255) : s.Entre(0, 3) * 7 : s.Entre(1, 49));
-        } while (!raro && std::count(sorteo.numeros.begin(), sorteo.numeros.begin() + static_cast<std::ptrdiff_t>(j),
-                                     sorteo.numeros[j]) > 0);
-    }
-    sorteo.anio = s.UnaDe(30) ? s.Entre(-3, 3) : static_cast<int16_t>(Anio - s.Entre(0, 2));
-    sorteo.sorteo = static_cast<uint16_t>(s.UnaDe(20) ? s.Entre(0, 1) * 65535 : s.Entre(1, 120));
-    sorteo.dia = static_cast<uint8_t>(s.Entre(0, 7));
-    return sorteo;
-}
-
-Sorteos Historia(Dados& s, size_t n) {
-    Sorteos sorteos;
-    while (sorteos.size() < n)
-        sorteos.push_back(!sorteos.empty() && s.UnaDe(6)
-                              ? sorteos[static_cast<size_t>(s.azar.Entero(static_cast<int32_t>(sorteos.size())))]
-                              : SorteoAlAzar(s));
-    return sorteos;
-}
-
-BloqueSorteos BloqueAlAzar(Dados& s, int32_t sorteos) {
-    BloqueSorteos b;
-    b.DESDE = {static_cast<int16_t>(Anio - s.Entre(0, 2)), s.Entre(1, 110)};
-    b.HASTA = {static_cast<int16_t>(Anio - s.Entre(0, 1)), s.Entre(50, 120)};
-    if (s.UnaDe(5)) b.DESDE = {-32768, 1};
-    if (s.UnaDe(5)) b.HASTA = {32767, 32767};
-    if (s.UnaDe(12)) b.DESDE.numero = s.Entre(-32768, 0);
-    if (s.UnaDe(3)) b.sorteoDIAS = s.UnaDe(6) ? s.Entre(-2, 300) : s.Entre(1, 7);
-    for (uint8_t& marca : b.acertarEN) marca = static_cast<uint8_t>(s.UnaDe(15) ? 2 : s.UnaDe(2));
-    b.aciertosMinimoSORTEOS = s.UnaDe(8) ? -5 : s.azar.Entero(sorteos / 3 + 1);
-    b.aciertosMaximoSORTEOS = s.UnaDe(10)  ? -1
-                              : s.UnaDe(4) ? INT32_MAX
-                                           : b.aciertosMinimoSORTEOS + s.azar.Entero(sorteos / 2 + 1);
-    if (s.UnaDe(8)) b.aciertosMinimoSORTEOS = b.aciertosMaximoSORTEOS = 0;
-    return b;
-}
-
-void SortearSORTEOSANTERIORES(Dados& s, Condiciones& c) {
-    const size_t n = s.UnaDe(3) ? 1 + s.UnaDe(2) : static_cast<size_t>(s.Entre(3, 700));
-    c.SorteosFiltro = Historia(s, n);
-    for (int32_t usados = s.Entre(1, 2); usados > 0; --usados)
-        c.SORTEOSANTERIORES.grupo[static_cast<size_t>(s.Entre(0, 19))] = BloqueAlAzar(s, static_cast<int32_t>(n));
-}
-
-using Manera = int32_t (*)(EstadoTrabajo&, Entorno&, const PreguntaSorteos&);
-
-void Expandir(Guion& guion, int16_t n) {
-    guion.MarcarHasta(n);
-    EstadoTrabajo& trabajo = guion.sesion.trabajo;
-    LeerBase(trabajo);
-    trabajo.ApuestasEnTabla = static_cast<int32_t>(Combinaciones(n, 6));
-    trabajo.TablaApuestas.Dimensionar(6, trabajo.ApuestasEnTabla);
-    trabajo.ApuestaEliminada.Dimensionar(1, trabajo.ApuestasEnTabla);
-    std::array<uint8_t, 6> apuesta;
-    for (int32_t i = 1; i <= trabajo.ApuestasEnTabla; ++i) {
-        CSNaCombinacion(i, 6, n, apuesta.data());
-        for (int r = 1; r <= 6; ++r) trabajo.TablaApuestas(r, i) = apuesta[static_cast<size_t>(r - 1)];
-    }
-}
 
 // One block over all draws, as a question and in the session.
 PreguntaSorteos Preguntar(Guion& guion, const Sorteos& sorteos, const TablaAciertos& acertar, int32_t minimo,
@@ -101,13 +28,34 @@ PreguntaSorteos Preguntar(Guion& guion, const Sorteos& sorteos, const TablaAcier
     return pregunta;
 }
 
-void CompararManeras(Guion& guion, const PreguntaSorteos& pregunta, std::initializer_list<Manera> maneras) {
+int64_t Vivas(const Tabla& eliminada) {
+    return std::count(eliminada.Fila(1), eliminada.Fila(1) + eliminada.Apuestas(), 0);
+}
+
+// Live bets that the spread has between the limits; all of them are somewhere.
+int64_t RepartidasDentro(ManeraSorteos manera, Guion& guion, const PreguntaSorteos& pregunta) {
+    Sesion sesion = guion.sesion;
+    uint8_t* flags = sesion.trabajo.ApuestaEliminada.Fila(1);
+    std::replace(flags, flags + sesion.trabajo.ApuestasEnTabla, 1, int{ApuestaMuerta});
+    const auto cuentas = RepartirSorteos(manera, sesion.trabajo, guion.entorno, pregunta);
+    int64_t dentro = 0, todas = 0;
+    for (size_t v = 0; v < cuentas.size(); ++v) {
+        const auto valor = static_cast<int32_t>(v);
+        todas += cuentas[v].Pasan;
+        if (valor >= pregunta.Minimo && valor <= pregunta.Maximo) dentro += cuentas[v].Apuestas;
+    }
+    EXPECT_EQ(todas, Vivas(guion.sesion.trabajo.ApuestaEliminada));
+    return dentro;
+}
+
+void CompararManeras(Guion& guion, const PreguntaSorteos& pregunta, std::initializer_list<ManeraSorteos> maneras) {
     Sesion literal = guion.sesion;
     const int32_t eliminadas = LiteralSORTEOSANTERIORES(literal);
-    for (const Manera manera : maneras) {
+    for (const ManeraSorteos manera : maneras) {
         Sesion rapida = guion.sesion;
-        EXPECT_EQ(manera(rapida.trabajo, guion.entorno, pregunta), eliminadas);
+        EXPECT_EQ(FiltrarSorteos(manera, rapida.trabajo, guion.entorno, pregunta), eliminadas);
         EXPECT_EQ(rapida.trabajo.ApuestaEliminada, literal.trabajo.ApuestaEliminada);
+        EXPECT_EQ(RepartidasDentro(manera, guion, pregunta), Vivas(literal.trabajo.ApuestaEliminada));
     }
     Sesion rapida = guion.sesion;
     EXPECT_EQ(FiltrarSORTEOSANTERIORES(rapida, guion.entorno), eliminadas);
@@ -117,33 +65,29 @@ void CompararManeras(Guion& guion, const PreguntaSorteos& pregunta, std::initial
 } // namespace
 
 TEST(SorteosAnteriores, ComoElLiteralEnSistemasAlAzar) {
-    CompararConLiteral(
-        {"SORTEOSANTERIORES", FiltrarSORTEOSANTERIORES, LiteralSORTEOSANTERIORES, SortearSORTEOSANTERIORES});
+    CompararConLiteral(CasoSorteos());
 }
 
 TEST(SorteosAnteriores, ExpansionesEnterasPorTodasLasManeras) {
-    for (const int64_t procesador : hwy::SupportedAndGeneratedTargets()) {
-        SCOPED_TRACE(hwy::TargetName(procesador));
-        hwy::SetSupportedTargetsForTest(procesador);
+    EnCadaProcesador([] {
         for (const int16_t n : std::initializer_list<int16_t>{6, 7, 8, 13, 17}) {
             SCOPED_TRACE(n);
             Guion guion;
             Dados s;
             s.azar.Sembrar(static_cast<uint64_t>(n));
-            Expandir(guion, n);
+            Expandir(guion.sesion.trabajo, n);
             EXPECT_TRUE(EsExpansionEntera(guion.sesion.trabajo));
-            const Sorteos sorteos = Historia(s, n == 17 ? 60 : 400);
+            const Sorteos sorteos = HistoriaAlAzar(s, n == 17 ? 60 : 400);
             for (int32_t i = 1; i <= guion.sesion.trabajo.ApuestasEnTabla; ++i)
                 guion.sesion.trabajo.ApuestaEliminada(1, i) = s.UnaDe(6);
             for (const TablaAciertos& acertar :
                  {TablaAciertos{0, 0, 0, 1, 1, 1, 1}, TablaAciertos{1, 0, 1, 0, 0, 0, 1}, TablaAciertos{0, 1}}) {
                 const auto pregunta = Preguntar(guion, sorteos, acertar, 3, static_cast<int32_t>(sorteos.size()) / 4);
-                CompararManeras(guion, pregunta, {FiltrarComparando, FiltrarExpansion});
-                if (n == 17) CompararManeras(guion, pregunta, {FiltrarConsultando});
+                CompararManeras(guion, pregunta, {ManeraSorteos::Comparando, ManeraSorteos::Expansion});
+                if (n == 17) CompararManeras(guion, pregunta, {ManeraSorteos::Consultando});
             }
         }
-        hwy::SetSupportedTargetsForTest(0);
-    }
+    });
 }
 
 // Counts of 65535, 65536 and beyond neither wrap nor meet in the sums.
@@ -151,13 +95,14 @@ TEST(SorteosAnteriores, CuentasDeMasDeDieciseisBits) {
     const Sorteo primero{{6, 5, 4, 3, 2, 1}, Anio, 1, 0}, otro{{1, 2, 3, 4, 5, 8}, Anio, 2, 0};
     for (const size_t n : {65535u, 65536u, 70000u}) {
         Guion guion;
-        Expandir(guion, 8);
+        Expandir(guion.sesion.trabajo, 8);
         Sorteos sorteos(n, primero);
         sorteos.push_back(otro);
         const auto maximo = static_cast<int32_t>(n);
         for (const TablaAciertos& acertar : {TablaAciertos{0, 0, 0, 0, 0, 0, 1}, TablaAciertos{0, 0, 0, 0, 0, 1, 1}}) {
             const auto pregunta = Preguntar(guion, sorteos, acertar, maximo, maximo);
-            CompararManeras(guion, pregunta, {FiltrarComparando, FiltrarExpansion, FiltrarConsultando});
+            CompararManeras(guion, pregunta,
+                            {ManeraSorteos::Comparando, ManeraSorteos::Expansion, ManeraSorteos::Consultando});
         }
     }
 }
@@ -165,7 +110,7 @@ TEST(SorteosAnteriores, CuentasDeMasDeDieciseisBits) {
 // As many bets as the base's expansion has, but not those.
 TEST(SorteosAnteriores, UnaTablaDelTamanoDeLaExpansionNoLoEs) {
     Guion guion;
-    Expandir(guion, 19);
+    Expandir(guion.sesion.trabajo, 19);
     EstadoTrabajo& trabajo = guion.sesion.trabajo;
     trabajo.cboTipoCombinacion = PronosticoDesdeArchivo;
     EXPECT_FALSE(EsExpansionEntera(trabajo));
@@ -174,8 +119,8 @@ TEST(SorteosAnteriores, UnaTablaDelTamanoDeLaExpansionNoLoEs) {
     EXPECT_FALSE(EsExpansionEntera(trabajo));
     Dados s;
     s.azar.Sembrar(5);
-    const auto pregunta = Preguntar(guion, Historia(s, 60), {0, 0, 0, 1, 1, 1, 1}, 1, 4);
-    CompararManeras(guion, pregunta, {FiltrarComparando, FiltrarConsultando});
+    const auto pregunta = Preguntar(guion, HistoriaAlAzar(s, 60), {0, 0, 0, 1, 1, 1, 1}, 1, 4);
+    CompararManeras(guion, pregunta, {ManeraSorteos::Comparando, ManeraSorteos::Consultando});
 }
 
 namespace {
@@ -289,12 +234,12 @@ TEST(SorteosAnteriores, CedeElTurno) {
     Guion guion;
     guion.PonerApuestas(std::vector<Apuesta>(12001, {1, 2, 3, 4, 5, 6}));
     Dados s;
-    const auto uno = Preguntar(guion, Historia(s, 1), DeTresASeis, 1, 1);
-    FiltrarComparando(guion.sesion.trabajo, guion.entorno, uno);
+    const auto uno = Preguntar(guion, HistoriaAlAzar(s, 1), DeTresASeis, 1, 1);
+    FiltrarSorteos(ManeraSorteos::Comparando, guion.sesion.trabajo, guion.entorno, uno);
     EXPECT_EQ(guion.Turnos, 3);
     guion.Turnos = 0;
     guion.PonerApuestas({{1, 2, 3, 4, 5, 6}});
     const auto muchos = Preguntar(guion, Sorteos(1001, {{1, 2, 3, 4, 5, 6}, Anio, 1, 0}), DeTresASeis, 0, 2000);
-    FiltrarComparando(guion.sesion.trabajo, guion.entorno, muchos);
+    FiltrarSorteos(ManeraSorteos::Comparando, guion.sesion.trabajo, guion.entorno, muchos);
     EXPECT_EQ(guion.Turnos, 2);
 }

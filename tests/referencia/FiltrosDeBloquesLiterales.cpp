@@ -137,14 +137,17 @@ int32_t LiteralVALORACIONES(Sesion& sesion) {
     return eliminadas;
 }
 
+size_t ClaseLiteralCR(const RegistroCOEFICIENTERENTABILIDAD& registro, const Numeros& apuesta) {
+    const double apostada = Producto(apuesta, registro.PorcentajesApostados);
+    const double real = Producto(apuesta, registro.PorcentajesReales);
+    double c = Redondear(real / apostada, 1) * 10;
+    if (apostada == 0 || std::isnan(c) || c >= 99) c = 99;
+    return static_cast<size_t>(std::nearbyint(c));
+}
+
 int32_t LiteralCOEFICIENTERENTABILIDAD(Sesion& sesion) {
     const RegistroCOEFICIENTERENTABILIDAD& registro = sesion.condiciones.COEFICIENTERENTABILIDAD;
     if (!EnVigor(registro.RangosCR)) return 0;
-    return Visitar(sesion, [&](const Numeros& apuesta) {
-        const double apostada = Producto(apuesta, registro.PorcentajesApostados);
-        const double real = Producto(apuesta, registro.PorcentajesReales);
-        double c = Redondear(real / apostada, 1) * 10;
-        if (apostada == 0 || std::isnan(c) || c >= 99) c = 99;
-        return registro.RangosCR[static_cast<size_t>(std::nearbyint(c))] != 1;
-    });
+    return Visitar(sesion,
+                   [&](const Numeros& apuesta) { return registro.RangosCR[ClaseLiteralCR(registro, apuesta)] != 1; });
 }

@@ -3,7 +3,9 @@
 #include <bit>
 #include <cstring>
 #include <limits>
+#include <type_traits>
 
+#include "Apartados.h"
 #include "Escalares.h"
 #include "SumasPorSubconjunto.h"
 #include "TablasCSN.h"
@@ -52,6 +54,12 @@ class Comparacion {
     }
 
     bool Pasa(uint64_t apuesta) const {
+        const int32_t cuenta = Contar(apuesta);
+        return cuenta >= pregunta_.Minimo && cuenta <= pregunta_.Maximo;
+    }
+
+    /// At most a block of draws beyond the maximum.
+    int32_t Contar(uint64_t apuesta) const {
         const auto normal = [&](uint64_t sorteo) { return std::popcount(apuesta & sorteo); };
         const auto repetido = [&](const std::array<uint64_t, 6>& capas) {
             int aciertos = 0;
@@ -61,7 +69,7 @@ class Comparacion {
         int32_t cuenta = 0;
         Contar(sorteos_.normales, normal, cuenta);
         Contar(sorteos_.repetidos, repetido, cuenta);
-        return cuenta >= pregunta_.Minimo && cuenta <= pregunta_.Maximo;
+        return cuenta;
     }
 
   private:
@@ -81,27 +89,27 @@ class Comparacion {
     unsigned permitidos_ = 0; // bit h: h hits count
 };
 
-// The answers of consecutive bets in pieces of any length.
-template <class Suma>
+// The answers of consecutive bets in pieces of any length: 1 to pass as uint8_t, otherwise their values.
+template <class Suma, class Respuesta>
 class Respuestas {
   public:
     Respuestas(size_t n, const PreguntaSorteos& pregunta, Entorno& entorno)
         : sumas_(n, pregunta, entorno), recorrido_(sumas_, static_cast<Suma>(pregunta.Maximo - pregunta.Minimo)) {}
 
-    /// The next `n` answers, 1 to pass; behind them stand at least `HolguraSumas` readable bytes.
-    const uint8_t* Tomar(size_t n) {
+    /// The next `n` answers; behind them stand at least `HolguraSumas` that may be read.
+    const Respuesta* Tomar(size_t n) {
         if (hasta_ - desde_ < n) {
-            bytes_.resize(std::max(bytes_.size(), n + Distancia(46, 3) + 2 * HolguraSumas));
-            std::memmove(bytes_.data(), bytes_.data() + desde_, hasta_ - desde_);
+            respuestas_.resize(std::max(respuestas_.size(), n + Distancia(46, 3) + 2 * HolguraSumas));
+            std::memmove(respuestas_.data(), respuestas_.data() + desde_, (hasta_ - desde_) * sizeof(Respuesta));
             hasta_ -= desde_;
             desde_ = 0;
             while (hasta_ < n) {
-                const size_t nuevas = recorrido_.Siguiente(bytes_.data() + hasta_);
+                const size_t nuevas = recorrido_.Siguiente(respuestas_.data() + hasta_);
                 if (nuevas == 0) break;
                 hasta_ += nuevas;
             }
         }
-        const uint8_t* tomadas = bytes_.data() + desde_;
+        const Respuesta* tomadas = respuestas_.data() + desde_;
         desde_ += n;
         return tomadas;
     }
@@ -109,7 +117,7 @@ class Respuestas {
   private:
     SumasPorSubconjunto<Suma> sumas_;
     RecorridoDeApuestas<Suma> recorrido_;
-    std::vector<uint8_t> bytes_;
+    std::vector<Respuesta> respuestas_;
     size_t desde_ = 0, hasta_ = 0;
 };
 
@@ -117,21 +125,23 @@ class Respuestas {
 template <class Usar>
 auto ConRespuestas(size_t n, const PreguntaSorteos& pregunta, Entorno& entorno, Usar usar) {
     if (pregunta.Sorteos.size() <= std::numeric_limits<uint16_t>::max()) {
-        Respuestas<uint16_t> respuestas(n, pregunta, entorno);
+        Respuestas<uint16_t, uint8_t> respuestas(n, pregunta, entorno);
         return usar(respuestas);
     }
-    Respuestas<uint32_t> respuestas(n, pregunta, entorno);
+    Respuestas<uint32_t, uint8_t> respuestas(n, pregunta, entorno);
     return usar(respuestas);
 }
 
-// One bit for each bet of the ticket, by its sequence number less 1.
+// A bit or a value for each bet of the ticket, by its sequence number less 1.
+constexpr size_t PorVuelta = 4096;
+static_assert(ApuestasMaximas % 8 == 0);
+
 class MapaRespuestas {
   public:
     template <class Suma>
-    explicit MapaRespuestas(Respuestas<Suma>& respuestas) : bits_(Bytes) {
-        constexpr size_t porVuelta = 512;
-        for (size_t i = 0; i < Bytes; i += porVuelta) {
-            const size_t cuantos = std::min(porVuelta, Bytes - i);
+    explicit MapaRespuestas(Respuestas<Suma, uint8_t>& respuestas) : bits_(ApuestasMaximas / 8) {
+        for (size_t i = 0; i < bits_.size(); i += PorVuelta / 8) {
+            const size_t cuantos = std::min(PorVuelta / 8, bits_.size() - i);
             const uint8_t* pasa = respuestas.Tomar(8 * cuantos);
             for (size_t j = 0; j < cuantos; ++j) bits_[i + j] = Juntar(pasa + 8 * j);
         }
@@ -144,9 +154,6 @@ class MapaRespuestas {
     }
 
   private:
-    static_assert(ApuestasMaximas % 8 == 0);
-    static constexpr size_t Bytes = ApuestasMaximas / 8;
-
     // Eight bytes of 0 or 1, the first as the lowest bit.
     static uint8_t Juntar(const uint8_t* pasa) {
         unsigned byte = 0;
@@ -155,6 +162,25 @@ class MapaRespuestas {
     }
 
     std::vector<uint8_t> bits_;
+};
+
+template <class Suma>
+class MapaValores {
+  public:
+    explicit MapaValores(Respuestas<Suma, Suma>& respuestas) : valores_(ApuestasMaximas) {
+        for (size_t i = 0; i < valores_.size(); i += PorVuelta) {
+            const size_t cuantos = std::min(PorVuelta, valores_.size() - i);
+            std::copy_n(respuestas.Tomar(cuantos), cuantos, valores_.data() + i);
+        }
+    }
+
+    Suma Valor(int32_t csn) const {
+        const auto lugar = static_cast<uint32_t>(csn) - 1;
+        return lugar < valores_.size() ? valores_[lugar] : Suma{0};
+    }
+
+  private:
+    std::vector<Suma> valores_;
 };
 
 int64_t LugarDe(const EstadoTrabajo& trabajo, const Tramo& tramo) {
@@ -180,6 +206,8 @@ bool EsExpansionEntera(const EstadoTrabajo& trabajo) {
     return true;
 }
 
+namespace {
+
 int32_t FiltrarComparando(EstadoTrabajo& trabajo, Entorno& entorno, const PreguntaSorteos& pregunta) {
     const Comparacion comparacion(pregunta, entorno);
     return Barrer(trabajo, entorno, [&](const Tramo& tramo) {
@@ -195,15 +223,113 @@ int32_t FiltrarExpansion(EstadoTrabajo& trabajo, Entorno& entorno, const Pregunt
     });
 }
 
-// The positions of the base stand in for the numbers of the ticket.
+// The sequence numbers of a stretch's bets. The positions of the base stand in for the numbers of the
+// ticket.
+class Numeradas {
+  public:
+    const std::vector<int32_t>& De(const EstadoTrabajo& trabajo, const Tramo& tramo) {
+        CombinacionesaCSN(trabajo.TablaApuestas, LugarDe(trabajo, tramo), tramo.n, csn_.data());
+        return csn_;
+    }
+
+  private:
+    std::vector<int32_t> csn_ = std::vector<int32_t>(static_cast<size_t>(ApuestasPorTurno) + 64);
+};
+
 int32_t FiltrarConsultando(EstadoTrabajo& trabajo, Entorno& entorno, const PreguntaSorteos& pregunta) {
     const MapaRespuestas mapa = ConRespuestas(NumeroMaximoBoleto, pregunta, entorno,
                                               [](auto& respuestas) { return MapaRespuestas(respuestas); });
-    std::vector<int32_t> csn(static_cast<size_t>(ApuestasPorTurno) + 64);
-    std::vector<uint8_t> pasa(csn.size() + HolguraSumas);
+    Numeradas numeradas;
+    std::vector<uint8_t> pasa(static_cast<size_t>(ApuestasPorTurno) + 64 + HolguraSumas);
     return Barrer(trabajo, entorno, [&](const Tramo& tramo) {
-        CombinacionesaCSN(trabajo.TablaApuestas, LugarDe(trabajo, tramo), tramo.n, csn.data());
+        const auto& csn = numeradas.De(trabajo, tramo);
         for (size_t i = 0; i < static_cast<size_t>(tramo.n); ++i) pasa[i] = mapa.Pasa(csn[i]);
         return NucleoVeredictos(tramo, pasa.data());
     });
+}
+
+// Few draws are counted in words; the counts of more go one at a time.
+template <class Suma>
+class CuentaDeSorteos {
+  public:
+    explicit CuentaDeSorteos(size_t sorteos) : cuentas_(sorteos + 1) {}
+
+    void Contar(const Tramo& tramo, const Suma* valores) {
+        if constexpr (std::is_same_v<Suma, uint16_t>) {
+            NucleoContarPalabras(tramo, valores, palabras_);
+        } else {
+            for (int64_t i = 0; i < tramo.n; ++i)
+                if (tramo.eliminada[i] != ApuestaMuerta)
+                    cuentas_[valores[i]].Sumar({1, tramo.eliminada[i] == ApuestaPasa});
+        }
+    }
+    Cuentas Todas() {
+        if constexpr (std::is_same_v<Suma, uint16_t>)
+            for (size_t v = 0; v < cuentas_.size(); ++v) cuentas_[v] = palabras_.De(v);
+        return std::move(cuentas_);
+    }
+
+  private:
+    Cuentas cuentas_;
+    CuentaPalabras palabras_;
+};
+
+template <class Suma>
+Cuentas RepartirExpansion(EstadoTrabajo& trabajo, Entorno& entorno, const PreguntaSorteos& pregunta) {
+    Respuestas<Suma, Suma> respuestas(static_cast<size_t>(trabajo.NumerosBase), pregunta, entorno);
+    CuentaDeSorteos<Suma> cuenta(pregunta.Sorteos.size());
+    BarrerContando(trabajo, entorno,
+                   [&](const Tramo& tramo) { cuenta.Contar(tramo, respuestas.Tomar(static_cast<size_t>(tramo.n))); });
+    return cuenta.Todas();
+}
+
+template <class Suma>
+Cuentas RepartirConsultando(EstadoTrabajo& trabajo, Entorno& entorno, const PreguntaSorteos& pregunta) {
+    Respuestas<Suma, Suma> respuestas(NumeroMaximoBoleto, pregunta, entorno);
+    const MapaValores<Suma> mapa(respuestas);
+    CuentaDeSorteos<Suma> cuenta(pregunta.Sorteos.size());
+    Numeradas numeradas;
+    std::vector<Suma> valores(static_cast<size_t>(ApuestasPorTurno) + 64 + HolguraSumas);
+    BarrerContando(trabajo, entorno, [&](const Tramo& tramo) {
+        const auto& csn = numeradas.De(trabajo, tramo);
+        for (size_t i = 0; i < static_cast<size_t>(tramo.n); ++i) valores[i] = mapa.Valor(csn[i]);
+        cuenta.Contar(tramo, valores.data());
+    });
+    return cuenta.Todas();
+}
+
+Cuentas RepartirComparando(EstadoTrabajo& trabajo, Entorno& entorno, const PreguntaSorteos& pregunta) {
+    const Comparacion comparacion(pregunta, entorno);
+    return ContarUnaAUna(trabajo, entorno, pregunta.Sorteos.size() + 1,
+                         [&](const Tramo& tramo, int64_t i) { return comparacion.Contar(ConjuntoDe(tramo, i)); });
+}
+
+} // namespace
+
+int32_t FiltrarSorteos(ManeraSorteos manera, EstadoTrabajo& trabajo, Entorno& entorno,
+                       const PreguntaSorteos& pregunta) {
+    switch (manera) {
+    case ManeraSorteos::Comparando:
+        return FiltrarComparando(trabajo, entorno, pregunta);
+    case ManeraSorteos::Expansion:
+        return FiltrarExpansion(trabajo, entorno, pregunta);
+    default:
+        return FiltrarConsultando(trabajo, entorno, pregunta);
+    }
+}
+
+Cuentas RepartirSorteos(ManeraSorteos manera, EstadoTrabajo& trabajo, Entorno& entorno, PreguntaSorteos pregunta) {
+    pregunta.Minimo = 0;
+    pregunta.Maximo = static_cast<int32_t>(pregunta.Sorteos.size());
+    const bool pocos = pregunta.Sorteos.size() < CuentaPalabras::Valores;
+    switch (manera) {
+    case ManeraSorteos::Comparando:
+        return RepartirComparando(trabajo, entorno, pregunta);
+    case ManeraSorteos::Expansion:
+        return pocos ? RepartirExpansion<uint16_t>(trabajo, entorno, pregunta)
+                     : RepartirExpansion<uint32_t>(trabajo, entorno, pregunta);
+    default:
+        return pocos ? RepartirConsultando<uint16_t>(trabajo, entorno, pregunta)
+                     : RepartirConsultando<uint32_t>(trabajo, entorno, pregunta);
+    }
 }

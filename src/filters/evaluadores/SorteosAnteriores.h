@@ -7,6 +7,7 @@
 
 #include "Entorno.h"
 #include "EstadoTrabajo.h"
+#include "NucleosReparto.h"
 #include "Registros.h"
 
 /// The six numbers of a draw as positions in the base, 0 for a number that it lacks. A number that is
@@ -23,10 +24,17 @@ struct PreguntaSorteos {
 /// Whether the table holds all bets of the base in lexicographic order, as the expansion leaves it.
 bool EsExpansionEntera(const EstadoTrabajo& trabajo);
 
-/// Each marks the live bets that do not pass and returns how many it marked.
-/// Compares every bet with every draw.
-int32_t FiltrarComparando(EstadoTrabajo& trabajo, Entorno& entorno, const PreguntaSorteos& pregunta);
-/// For a whole expansion: its bets' answers come one after the other, whatever the number of draws.
-int32_t FiltrarExpansion(EstadoTrabajo& trabajo, Entorno& entorno, const PreguntaSorteos& pregunta);
-/// First the answers of all bets of the ticket, then the table's bets look theirs up.
-int32_t FiltrarConsultando(EstadoTrabajo& trabajo, Entorno& entorno, const PreguntaSorteos& pregunta);
+/// The ways to the answers.
+enum class ManeraSorteos {
+    Comparando, ///< every bet with every draw
+    Expansion,  ///< of a whole expansion the answers come one after the other, whatever the number of draws
+    Consultando ///< first the answers of all bets of the ticket, then the table's bets look theirs up
+};
+
+/// Marks the live bets that do not pass and returns how many it marked.
+int32_t FiltrarSorteos(ManeraSorteos manera, EstadoTrabajo& trabajo, Entorno& entorno, const PreguntaSorteos& pregunta);
+
+/// Live bets by their number of draws with hits that `Acertar` allows, from 0 to all draws; the flags are
+/// those of EstadoApuesta. The limits of the question have no part in it.
+std::vector<CuentaValor> RepartirSorteos(ManeraSorteos manera, EstadoTrabajo& trabajo, Entorno& entorno,
+                                         PreguntaSorteos pregunta);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <type_traits>
 
 namespace {
 
@@ -141,38 +142,51 @@ bool RecorridoDeApuestas<Suma>::Avanzar() {
 }
 
 template <class Suma>
-size_t RecorridoDeApuestas<Suma>::Siguiente(uint8_t* pasa) {
+template <class Respuesta>
+size_t RecorridoDeApuestas<Suma>::Siguiente(Respuesta* respuestas) {
     if (!Avanzar()) return 0;
     const Nivel& ultimo = nivel_[3];
     const TablasTernas<Suma> tablas{
         {ultimo.fin[0], ultimo.fin[1], ultimo.fin[2], ultimo.fin[3]}, sumas_.N() - prefijo_[2], ancho_};
-    NucleoTernas(tablas, pasa);
+    NucleoTernas(tablas, respuestas);
     const size_t cuantas = Distancia(tablas.Resto, 3);
-    CorregirSextetos(tablas, cuantas, pasa);
+    CorregirSextetos(tablas, cuantas, respuestas);
     hechas_ += static_cast<int32_t>(cuantas);
     return cuantas;
 }
 
 // A bet that was itself a draw gets its answer anew.
 template <class Suma>
-void RecorridoDeApuestas<Suma>::CorregirSextetos(const TablasTernas<Suma>& t, size_t cuantas, uint8_t* pasa) {
+template <class Respuesta>
+void RecorridoDeApuestas<Suma>::CorregirSextetos(const TablasTernas<Suma>& t, size_t cuantas, Respuesta* respuestas) {
     const auto& sextetos = sumas_.Sextetos();
     for (; sexteto_ < sextetos.size(); ++sexteto_) {
-        const auto& sexteto = sextetos[sexteto_];
-        const auto lugar = static_cast<size_t>(sexteto.lugar - hechas_);
+        const auto lugar = static_cast<size_t>(sextetos[sexteto_].lugar - hechas_);
         if (lugar >= cuantas) return;
-        const auto tras = [&](size_t i) { return sumas_.N() - sexteto.ultimas[i]; };
-        const size_t d = tras(0), e = tras(1), f = tras(2);
-        const auto valor = [&](size_t k, size_t desdeElFinal) { return *(t.Fin[k] - 1 - desdeElFinal); };
-        const auto dos = [&](size_t x, size_t y) { return valor(2, Distancia(x, 2) + y); };
-        const auto suma =
-            static_cast<Suma>(sexteto.valor + valor(0, 0) + valor(1, d) + valor(1, e) + valor(1, f) + dos(d, e) +
-                              dos(d, f) + dos(e, f) + valor(3, Distancia(d, 3) + Distancia(e, 2) + f));
-        pasa[lugar] = suma <= t.Ancho;
+        const Suma valor = ValorDe(sextetos[sexteto_], t);
+        if constexpr (std::is_same_v<Respuesta, Suma>)
+            respuestas[lugar] = valor;
+        else
+            respuestas[lugar] = valor <= t.Ancho;
     }
+}
+
+template <class Suma>
+Suma RecorridoDeApuestas<Suma>::ValorDe(const typename SumasPorSubconjunto<Suma>::Sexteto& sexteto,
+                                        const TablasTernas<Suma>& t) const {
+    const auto tras = [&](size_t i) { return sumas_.N() - sexteto.ultimas[i]; };
+    const size_t d = tras(0), e = tras(1), f = tras(2);
+    const auto valor = [&](size_t k, size_t desdeElFinal) { return *(t.Fin[k] - 1 - desdeElFinal); };
+    const auto dos = [&](size_t x, size_t y) { return valor(2, Distancia(x, 2) + y); };
+    return static_cast<Suma>(sexteto.valor + valor(0, 0) + valor(1, d) + valor(1, e) + valor(1, f) + dos(d, e) +
+                             dos(d, f) + dos(e, f) + valor(3, Distancia(d, 3) + Distancia(e, 2) + f));
 }
 
 template class SumasPorSubconjunto<uint16_t>;
 template class SumasPorSubconjunto<uint32_t>;
 template class RecorridoDeApuestas<uint16_t>;
 template class RecorridoDeApuestas<uint32_t>;
+template size_t RecorridoDeApuestas<uint16_t>::Siguiente(uint8_t*);
+template size_t RecorridoDeApuestas<uint32_t>::Siguiente(uint8_t*);
+template size_t RecorridoDeApuestas<uint16_t>::Siguiente(uint16_t*);
+template size_t RecorridoDeApuestas<uint32_t>::Siguiente(uint32_t*);

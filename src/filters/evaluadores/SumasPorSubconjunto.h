@@ -50,9 +50,10 @@ class RecorridoDeApuestas {
   public:
     RecorridoDeApuestas(const SumasPorSubconjunto<Suma>& sumas, Suma ancho);
 
-    /// Writes 1 or 0 for each of the next bets, and up to `HolguraSumas` bytes more; at most C(46,3).
-    /// Returns how many bets they are, 0 behind the last.
-    size_t Siguiente(uint8_t* pasa);
+    /// Writes the answer for each of the next bets, and up to `HolguraSumas` more; at most C(46,3). As uint8_t
+    /// it is 1 or 0, as `Suma` the bet's value. Returns how many bets they are, 0 behind the last.
+    template <class Respuesta>
+    size_t Siguiente(Respuesta* respuestas);
 
   private:
     struct Nivel {
@@ -62,7 +63,9 @@ class RecorridoDeApuestas {
 
     bool Avanzar();
     void Extender(size_t nivel);
-    void CorregirSextetos(const TablasTernas<Suma>& tablas, size_t cuantas, uint8_t* pasa);
+    template <class Respuesta>
+    void CorregirSextetos(const TablasTernas<Suma>& tablas, size_t cuantas, Respuesta* respuestas);
+    Suma ValorDe(const typename SumasPorSubconjunto<Suma>::Sexteto& sexteto, const TablasTernas<Suma>& tablas) const;
 
     const SumasPorSubconjunto<Suma>& sumas_;
     Suma ancho_;

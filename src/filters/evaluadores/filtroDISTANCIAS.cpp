@@ -1,7 +1,8 @@
 #include <algorithm>
 
+#include "Apartados.h"
 #include "Evaluadores.h"
-#include "Preparar.h"
+#include "Repartidores.h"
 
 namespace {
 
@@ -26,4 +27,26 @@ int32_t FiltrarDISTANCIAS(Sesion& sesion, Entorno& entorno) {
     tablas.Numero = NumeroDeCadaPosicion(sesion.trabajo);
     for (size_t k = 0; k < distancias.size(); ++k) PonerDistancia(tablas, k, distancias[k]);
     return Barrer(sesion.trabajo, entorno, [&](const Tramo& tramo) { return NucleoDistancias(tramo, tablas); });
+}
+
+// Imported bets may stand in any order, so that a difference can be below 0.
+Apartados RepartirDISTANCIAS(Sesion& sesion, Entorno& entorno) {
+    constexpr int8_t menor = -NumeroMaximoBoleto;
+    constexpr size_t valores = 2 * NumeroMaximoBoleto + 1;
+    constexpr std::array<const char*, 6> nombres{"Distancia 1-2", "Distancia 2-3", "Distancia 3-4",
+                                                 "Distancia 4-5", "Distancia 5-6", "Distancia 1-6"};
+    const PorPosicion numero = NumeroDeCadaPosicion(sesion.trabajo);
+    const FilasDeTramo<6> filas;
+    std::array<CuentaPalabras, 3> cuentas; // each of two distances together
+    BarrerContando(sesion.trabajo, entorno, [&](const Tramo& tramo) {
+        FilasDistancias(tramo, numero, menor, filas.Todas());
+        for (size_t c = 0; c < 3; ++c) NucleoContarBytes(tramo, filas[2 * c], filas[2 * c + 1], cuentas[c]);
+    });
+    Apartados apartados;
+    for (size_t k = 0; k < nombres.size(); ++k) {
+        const CuentaPalabras& cuenta = cuentas[k / 2];
+        const Cuentas suyas = k % 2 == 0 ? PorBaja(cuenta, valores) : PorAlta(cuenta, valores);
+        apartados.push_back(ApartadoRecortado(nombres[k], suyas, menor));
+    }
+    return apartados;
 }

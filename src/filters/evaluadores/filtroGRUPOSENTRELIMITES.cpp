@@ -1,7 +1,9 @@
 #include <algorithm>
 
+#include "Apartados.h"
 #include "Evaluadores.h"
 #include "Grupos.h"
+#include "Repartidores.h"
 
 namespace {
 
@@ -32,4 +34,13 @@ int32_t FiltrarGRUPOSENTRELIMITES(Sesion& sesion, Entorno& entorno) {
     const TablasLimites tablas{Preparar(sesion.trabajo, registro), static_cast<uint8_t>(minimo),
                                static_cast<uint8_t>(std::max(maximo, 0))};
     return Barrer(sesion.trabajo, entorno, [&](const Tramo& tramo) { return NucleoLimites(tramo, tablas); });
+}
+
+Apartados RepartirGRUPOSENTRELIMITES(Sesion& sesion, Entorno& entorno) {
+    const auto& grupos = sesion.condiciones.GRUPOSENTRELIMITES.grupo;
+    const auto usados = std::count_if(grupos.begin(), grupos.end(), [](auto& g) { return EnVigor(g.numeros); });
+    const TablasLimites tablas{Preparar(sesion.trabajo, sesion.condiciones.GRUPOSENTRELIMITES)};
+    return RepartirGrupos(
+        sesion.trabajo, entorno, static_cast<size_t>(usados),
+        [&](const Tramo& tramo, uint8_t* respuestas) { RespuestasLimites(tramo, tablas, respuestas); });
 }

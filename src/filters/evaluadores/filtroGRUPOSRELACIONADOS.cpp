@@ -1,7 +1,9 @@
 #include <algorithm>
 
+#include "Apartados.h"
 #include "Evaluadores.h"
 #include "Grupos.h"
+#include "Repartidores.h"
 
 namespace {
 
@@ -24,18 +26,31 @@ TablasRelacionados Preparar(const EstadoTrabajo& trabajo, Subgrupos subgrupos, C
     return tablas;
 }
 
-} // namespace
-
-int32_t FiltrarGRUPOSRELACIONADOS(Sesion& sesion, Entorno& entorno) {
-    const RegistroGRUPOSRELACIONADOS& registro = sesion.condiciones.GRUPOSRELACIONADOS;
+// A table for each group in use.
+std::vector<TablasRelacionados> PrepararTodos(const EstadoTrabajo& trabajo,
+                                              const RegistroGRUPOSRELACIONADOS& registro) {
     std::vector<TablasRelacionados> tablas;
     for (size_t b = 0; b < registro.subgrupos.size(); b += PorGrupo) {
         const Subgrupos subgrupos(&registro.subgrupos[b], PorGrupo);
         const auto s = std::count_if(subgrupos.begin(), subgrupos.end(), EnVigor<MarcasNumeros>);
         if (s == 0) continue;
-        tablas.push_back(Preparar(sesion.trabajo, subgrupos, Condiciones6(&registro.condiciones[b], PorGrupo),
-                                  static_cast<size_t>(s)));
+        tablas.push_back(
+            Preparar(trabajo, subgrupos, Condiciones6(&registro.condiciones[b], PorGrupo), static_cast<size_t>(s)));
     }
+    return tablas;
+}
+
+} // namespace
+
+int32_t FiltrarGRUPOSRELACIONADOS(Sesion& sesion, Entorno& entorno) {
+    const auto tablas = PrepararTodos(sesion.trabajo, sesion.condiciones.GRUPOSRELACIONADOS);
     if (tablas.empty()) return 0;
     return Barrer(sesion.trabajo, entorno, [&](const Tramo& tramo) { return NucleoRelacionados(tramo, tablas); });
+}
+
+Apartados RepartirGRUPOSRELACIONADOS(Sesion& sesion, Entorno& entorno) {
+    const auto tablas = PrepararTodos(sesion.trabajo, sesion.condiciones.GRUPOSRELACIONADOS);
+    return RepartirGrupos(sesion.trabajo, entorno, tablas.size(), [&](const Tramo& tramo, uint8_t* respuestas) {
+        RespuestasRelacionados(tramo, tablas, respuestas);
+    });
 }

@@ -1,8 +1,10 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "Apartados.h"
 #include "Evaluadores.h"
 #include "NucleosSorteos.h"
+#include "Repartidores.h"
 #include "SorteosAnteriores.h"
 #include "SorteosDeBloque.h"
 
@@ -37,16 +39,16 @@ int32_t EliminarTodas(EstadoTrabajo& trabajo, Entorno& entorno) {
 }
 
 // Estimated nanoseconds, from measurements: what a bet and a draw cost in each way.
-int32_t FiltrarPorLoMasCorto(EstadoTrabajo& trabajo, Entorno& entorno, const PreguntaSorteos& pregunta) {
+ManeraSorteos LaMasCorta(const EstadoTrabajo& trabajo, size_t cuantosSorteos) {
     constexpr double porComparacion = 4, porApuesta = 10, porRespuesta = 0.9, porSorteo = 300, porConsulta = 8;
     const auto apuestas = static_cast<double>(trabajo.ApuestasEnTabla);
-    const auto sorteos = static_cast<double>(pregunta.Sorteos.size());
+    const auto sorteos = static_cast<double>(cuantosSorteos);
     const bool entera = EsExpansionEntera(trabajo);
     const double comparando = apuestas * (porApuesta + sorteos * porComparacion);
     const double sumando = sorteos * porSorteo +
                            (entera ? apuestas * porRespuesta : ApuestasMaximas * porRespuesta + apuestas * porConsulta);
-    if (comparando <= sumando) return FiltrarComparando(trabajo, entorno, pregunta);
-    return entera ? FiltrarExpansion(trabajo, entorno, pregunta) : FiltrarConsultando(trabajo, entorno, pregunta);
+    if (comparando <= sumando) return ManeraSorteos::Comparando;
+    return entera ? ManeraSorteos::Expansion : ManeraSorteos::Consultando;
 }
 
 // The record may hold any limits: a count lies between 0 and the number of draws.
@@ -57,7 +59,7 @@ int32_t FiltrarBloque(Sesion& sesion, Entorno& entorno, const BloqueSorteos& blo
     pregunta.Maximo = std::min(bloque.aciertosMaximoSORTEOS, sorteos);
     if (pregunta.Minimo > pregunta.Maximo) return EliminarTodas(sesion.trabajo, entorno);
     if (pregunta.Minimo == 0 && pregunta.Maximo == sorteos) return 0;
-    return FiltrarPorLoMasCorto(sesion.trabajo, entorno, pregunta);
+    return FiltrarSorteos(LaMasCorta(sesion.trabajo, pregunta.Sorteos.size()), sesion.trabajo, entorno, pregunta);
 }
 
 } // namespace
@@ -69,4 +71,20 @@ int32_t FiltrarSORTEOSANTERIORES(Sesion& sesion, Entorno& entorno) {
     for (const BloqueSorteos& bloque : sesion.condiciones.SORTEOSANTERIORES.grupo)
         if (EnVigor(bloque.acertarEN)) eliminadas += FiltrarBloque(sesion, entorno, bloque, posicion);
     return eliminadas;
+}
+
+// Without a table of draws every bet hits in none of them.
+Apartados RepartirSORTEOSANTERIORES(Sesion& sesion, Entorno& entorno) {
+    const PosicionDeNumero posicion = PosicionesDe(sesion.trabajo);
+    const auto& grupos = sesion.condiciones.SORTEOSANTERIORES.grupo;
+    Apartados apartados;
+    for (size_t g = 0; g < grupos.size(); ++g) {
+        if (!EnVigor(grupos[g].acertarEN)) continue;
+        PreguntaSorteos pregunta{SorteosEnBase(sesion.condiciones.SorteosFiltro, grupos[g], posicion),
+                                 grupos[g].acertarEN, 0, 0};
+        const ManeraSorteos manera = LaMasCorta(sesion.trabajo, pregunta.Sorteos.size());
+        apartados.push_back(ApartadoRecortado("Grupo " + std::to_string(g + 1),
+                                              RepartirSorteos(manera, sesion.trabajo, entorno, std::move(pregunta))));
+    }
+    return apartados;
 }

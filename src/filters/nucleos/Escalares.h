@@ -24,3 +24,9 @@ int32_t RecorrerUnaAUna(const Tramo& tramo, Prueba pasa) {
     }
     return marcadas;
 }
+
+/// Writes `valor(i)` for each bet, live or not.
+template <class Valor>
+void EscribirUnaAUna(const Tramo& tramo, Valor valor, uint8_t* respuestas) {
+    for (int64_t i = 0; i < tramo.n; ++i) respuestas[i] = static_cast<uint8_t>(valor(i));
+}

@@ -132,9 +132,7 @@ int32_t Coeficiente(const Tramo& tramo, const TablasCoeficiente& tablas) {
 }
 
 void Respuestas(const Tramo& tramo, const TablasCoeficiente& tablas, uint8_t* respuestas) {
-    const RespuestaCoeficiente responder(tablas);
-    const auto ancho = static_cast<int64_t>(hn::Lanes(d));
-    for (int64_t i = 0; i < tramo.n; i += ancho) hn::Store(responder(tramo, i), d, respuestas + i);
+    Escribir(tramo, RespuestaCoeficiente(tablas), respuestas);
 }
 
 #endif
@@ -172,6 +170,7 @@ int32_t NucleoCoeficienteEscalar(const Tramo& tramo, const TablasCoeficiente& ta
 }
 
 void NucleoRespuestasEscalar(const Tramo& tramo, const TablasCoeficiente& tablas, uint8_t* respuestas) {
-    for (int64_t i = 0; i < tramo.n; ++i) respuestas[i] = RespuestaExacta(tramo, i, tablas);
+    EscribirUnaAUna(
+        tramo, [&](int64_t i) { return RespuestaExacta(tramo, i, tablas); }, respuestas);
 }
 #endif

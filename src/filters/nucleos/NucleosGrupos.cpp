@@ -1,6 +1,7 @@
 // Kernels that count hits in groups of numbers, eight groups at once.
 #include "NucleosGrupos.h"
 
+#include <algorithm>
 #include <bit>
 
 #include "Objetivos.h"
@@ -27,8 +28,29 @@ int32_t Limites(const Tramo& tramo, const TablasLimites& t) {
 int32_t Relacionados(const Tramo& tramo, std::span<const TablasRelacionados> t) {
     return NucleoRelacionadosEscalar(tramo, t);
 }
+void GruposRespuestas(const Tramo& tramo, std::span<const OchoGruposPorFila> t, uint8_t* respuestas) {
+    RespuestasGruposEscalar(tramo, t, respuestas);
+}
+void LimitesRespuestas(const Tramo& tramo, const TablasLimites& t, uint8_t* respuestas) {
+    RespuestasLimitesEscalar(tramo, t, respuestas);
+}
+void RelacionadosRespuestas(const Tramo& tramo, std::span<const TablasRelacionados> t, uint8_t* respuestas) {
+    RespuestasRelacionadosEscalar(tramo, t, respuestas);
+}
 
 #else
+
+// Adds what `prueba(tramo, i)` gives to the bytes of the bets.
+template <class Prueba>
+HWY_INLINE void Anadir(const Tramo& tramo, const Prueba& prueba, uint8_t* respuestas) {
+    const auto ancho = static_cast<int64_t>(hn::Lanes(d));
+    for (int64_t i = 0; i < tramo.n; i += ancho)
+        hn::Store(hn::Add(hn::Load(d, respuestas + i), prueba(tramo, i)), d, respuestas + i);
+}
+
+void PonerCeros(const Tramo& tramo, uint8_t* respuestas) {
+    std::fill(respuestas, respuestas + (tramo.n + 63) / 64 * 64, uint8_t{0});
+}
 
 // A table for each row.
 struct SeisBusquedas {
@@ -92,25 +114,43 @@ class Recuento {
     V unidades_, doses_, cuatros_;
 };
 
-struct PruebaGrupos {
+// Of eight groups, a bit for each that the bet satisfies.
+struct OchoPorFila {
     SeisBusquedas miembro;
     Permisos permite;
-    explicit PruebaGrupos(const OchoGruposPorFila& t) : miembro(t.Miembro), permite(t.Permite) {}
+    explicit OchoPorFila(const OchoGruposPorFila& t) : miembro(t.Miembro), permite(t.Permite) {}
 
     HWY_INLINE V operator()(const Tramo& tramo, int64_t i) const {
         V m[6];
         for (int r = 0; r < 6; ++r) m[r] = miembro(tramo, i, r);
-        return hn::VecFromMask(d, hn::Eq(Recuento(m).Elegir(permite), hn::Set(d, 0xFF)));
+        return Recuento(m).Elegir(permite);
     }
+};
+
+struct PruebaGrupos {
+    OchoPorFila satisfechos;
+    HWY_INLINE V operator()(const Tramo& tramo, int64_t i) const {
+        return hn::VecFromMask(d, hn::Eq(satisfechos(tramo, i), hn::Set(d, 0xFF)));
+    }
+};
+
+struct CuentaGrupos {
+    OchoPorFila satisfechos;
+    HWY_INLINE V operator()(const Tramo& tramo, int64_t i) const { return hn::PopulationCount(satisfechos(tramo, i)); }
 };
 
 int32_t Grupos(const Tramo& tramo, std::span<const OchoGruposPorFila> tablas) {
     int32_t marcadas = 0;
-    for (const OchoGruposPorFila& ocho : tablas) marcadas += Recorrer(tramo, PruebaGrupos(ocho));
+    for (const OchoGruposPorFila& ocho : tablas) marcadas += Recorrer(tramo, PruebaGrupos{OchoPorFila(ocho)});
     return marcadas;
 }
 
-struct PruebaLimites {
+void GruposRespuestas(const Tramo& tramo, std::span<const OchoGruposPorFila> tablas, uint8_t* respuestas) {
+    PonerCeros(tramo, respuestas);
+    for (const OchoGruposPorFila& ocho : tablas) Anadir(tramo, CuentaGrupos{OchoPorFila(ocho)}, respuestas);
+}
+
+struct CuentaLimites {
     const TablasLimites& tablas;
 
     HWY_INLINE V operator()(const Tramo& tramo, int64_t i) const {
@@ -119,14 +159,27 @@ struct PruebaLimites {
             const Recuento cuenta(Seis(tramo, i, Busqueda64(ocho.Miembro)).v);
             satisfechos = hn::Add(satisfechos, hn::PopulationCount(cuenta.Elegir(Permisos(ocho.Permite))));
         }
-        const V fuera = hn::Or(hn::SaturatedSub(hn::Set(d, tablas.Minimo), satisfechos),
-                               hn::SaturatedSub(satisfechos, hn::Set(d, tablas.Maximo)));
+        return satisfechos;
+    }
+};
+
+struct PruebaLimites {
+    CuentaLimites contar;
+
+    HWY_INLINE V operator()(const Tramo& tramo, int64_t i) const {
+        const V satisfechos = contar(tramo, i);
+        const V fuera = hn::Or(hn::SaturatedSub(hn::Set(d, contar.tablas.Minimo), satisfechos),
+                               hn::SaturatedSub(satisfechos, hn::Set(d, contar.tablas.Maximo)));
         return hn::VecFromMask(d, hn::Eq(fuera, hn::Zero(d)));
     }
 };
 
 int32_t Limites(const Tramo& tramo, const TablasLimites& tablas) {
-    return Recorrer(tramo, PruebaLimites{tablas});
+    return Recorrer(tramo, PruebaLimites{{tablas}});
+}
+
+void LimitesRespuestas(const Tramo& tramo, const TablasLimites& tablas, uint8_t* respuestas) {
+    Escribir(tramo, CuentaLimites{tablas}, respuestas);
 }
 
 // A choice of different subgroups exists exactly when any c of the conditions are satisfied by c or
@@ -161,6 +214,16 @@ int32_t Relacionados(const Tramo& tramo, std::span<const TablasRelacionados> tab
     return marcadas;
 }
 
+struct UnoSiCasan {
+    PruebaRelacionados casan;
+    HWY_INLINE V operator()(const Tramo& tramo, int64_t i) const { return hn::And(casan(tramo, i), hn::Set(d, 1)); }
+};
+
+void RelacionadosRespuestas(const Tramo& tramo, std::span<const TablasRelacionados> tablas, uint8_t* respuestas) {
+    PonerCeros(tramo, respuestas);
+    for (const TablasRelacionados& grupo : tablas) Anadir(tramo, UnoSiCasan{PruebaRelacionados(grupo)}, respuestas);
+}
+
 #endif
 } // namespace HWY_NAMESPACE
 } // namespace
@@ -172,6 +235,9 @@ HWY_EXPORT(Posiciones);
 HWY_EXPORT(Grupos);
 HWY_EXPORT(Limites);
 HWY_EXPORT(Relacionados);
+HWY_EXPORT(GruposRespuestas);
+HWY_EXPORT(LimitesRespuestas);
+HWY_EXPORT(RelacionadosRespuestas);
 } // namespace
 
 int32_t NucleoPosiciones(const Tramo& tramo, const TablasPosiciones& tablas) {
@@ -188,5 +254,17 @@ int32_t NucleoLimites(const Tramo& tramo, const TablasLimites& tablas) {
 
 int32_t NucleoRelacionados(const Tramo& tramo, std::span<const TablasRelacionados> tablas) {
     return HWY_DYNAMIC_DISPATCH(Relacionados)(tramo, tablas);
+}
+
+void RespuestasGrupos(const Tramo& tramo, std::span<const OchoGruposPorFila> tablas, uint8_t* respuestas) {
+    HWY_DYNAMIC_DISPATCH(GruposRespuestas)(tramo, tablas, respuestas);
+}
+
+void RespuestasLimites(const Tramo& tramo, const TablasLimites& tablas, uint8_t* respuestas) {
+    HWY_DYNAMIC_DISPATCH(LimitesRespuestas)(tramo, tablas, respuestas);
+}
+
+void RespuestasRelacionados(const Tramo& tramo, std::span<const TablasRelacionados> tablas, uint8_t* respuestas) {
+    HWY_DYNAMIC_DISPATCH(RelacionadosRespuestas)(tramo, tablas, respuestas);
 }
 #endif

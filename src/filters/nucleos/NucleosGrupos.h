@@ -26,6 +26,9 @@ struct alignas(64) OchoGruposPorFila {
 };
 int32_t NucleoGrupos(const Tramo& tramo, std::span<const OchoGruposPorFila> tablas);
 int32_t NucleoGruposEscalar(const Tramo& tramo, std::span<const OchoGruposPorFila> tablas);
+/// The number of groups that a bet satisfies, at most 255.
+void RespuestasGrupos(const Tramo& tramo, std::span<const OchoGruposPorFila> tablas, uint8_t* respuestas);
+void RespuestasGruposEscalar(const Tramo& tramo, std::span<const OchoGruposPorFila> tablas, uint8_t* respuestas);
 
 /// Eight groups whose numbers count in any row.
 struct alignas(64) OchoGrupos {
@@ -40,6 +43,9 @@ struct TablasLimites {
 };
 int32_t NucleoLimites(const Tramo& tramo, const TablasLimites& tablas);
 int32_t NucleoLimitesEscalar(const Tramo& tramo, const TablasLimites& tablas);
+/// The number of groups satisfied.
+void RespuestasLimites(const Tramo& tramo, const TablasLimites& tablas, uint8_t* respuestas);
+void RespuestasLimitesEscalar(const Tramo& tramo, const TablasLimites& tablas, uint8_t* respuestas);
 
 /// Up to six subgroups, a bit for each, and as many conditions. Each condition needs a subgroup of its
 /// own whose hits it allows.
@@ -50,3 +56,6 @@ struct alignas(64) TablasRelacionados {
 };
 int32_t NucleoRelacionados(const Tramo& tramo, std::span<const TablasRelacionados> tablas);
 int32_t NucleoRelacionadosEscalar(const Tramo& tramo, std::span<const TablasRelacionados> tablas);
+/// How many of the tables a bet satisfies, at most 255.
+void RespuestasRelacionados(const Tramo& tramo, std::span<const TablasRelacionados> tablas, uint8_t* respuestas);
+void RespuestasRelacionadosEscalar(const Tramo& tramo, std::span<const TablasRelacionados> tablas, uint8_t* respuestas);

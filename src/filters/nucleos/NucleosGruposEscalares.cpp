@@ -39,6 +39,13 @@ bool CondicionesCasan(const Recuento& cuenta, const TablasRelacionados& tablas) 
     return true;
 }
 
+int CuantosSatisfechos(const Tramo& tramo, int64_t i, const std::vector<OchoGrupos>& grupos) {
+    int satisfechos = 0;
+    for (const OchoGrupos& ocho : grupos)
+        satisfechos += std::popcount(Satisfechos(Contar(Valores(tramo, i, ocho.Miembro)), ocho.Permite));
+    return satisfechos;
+}
+
 } // namespace
 
 int32_t NucleoPosicionesEscalar(const Tramo& tramo, const TablasPosiciones& tablas) {
@@ -57,13 +64,26 @@ int32_t NucleoGruposEscalar(const Tramo& tramo, std::span<const OchoGruposPorFil
     });
 }
 
+void RespuestasGruposEscalar(const Tramo& tramo, std::span<const OchoGruposPorFila> tablas, uint8_t* respuestas) {
+    const auto satisfechos = [&](int64_t i) {
+        int cuantos = 0;
+        for (const OchoGruposPorFila& ocho : tablas)
+            cuantos += std::popcount(Satisfechos(Contar(PorFila(tramo, i, ocho.Miembro)), ocho.Permite));
+        return cuantos;
+    };
+    EscribirUnaAUna(tramo, satisfechos, respuestas);
+}
+
 int32_t NucleoLimitesEscalar(const Tramo& tramo, const TablasLimites& tablas) {
     return RecorrerUnaAUna(tramo, [&](int64_t i) {
-        int satisfechos = 0;
-        for (const OchoGrupos& ocho : tablas.Grupos)
-            satisfechos += std::popcount(Satisfechos(Contar(Valores(tramo, i, ocho.Miembro)), ocho.Permite));
+        const int satisfechos = CuantosSatisfechos(tramo, i, tablas.Grupos);
         return satisfechos >= tablas.Minimo && satisfechos <= tablas.Maximo;
     });
+}
+
+void RespuestasLimitesEscalar(const Tramo& tramo, const TablasLimites& tablas, uint8_t* respuestas) {
+    EscribirUnaAUna(
+        tramo, [&](int64_t i) { return CuantosSatisfechos(tramo, i, tablas.Grupos); }, respuestas);
 }
 
 int32_t NucleoRelacionadosEscalar(const Tramo& tramo, std::span<const TablasRelacionados> tablas) {
@@ -72,4 +92,15 @@ int32_t NucleoRelacionadosEscalar(const Tramo& tramo, std::span<const TablasRela
             if (!CondicionesCasan(Contar(Valores(tramo, i, grupo.Miembro)), grupo)) return false;
         return true;
     });
+}
+
+void RespuestasRelacionadosEscalar(const Tramo& tramo, std::span<const TablasRelacionados> tablas,
+                                   uint8_t* respuestas) {
+    const auto casan = [&](int64_t i) {
+        int cuantos = 0;
+        for (const TablasRelacionados& grupo : tablas)
+            cuantos += CondicionesCasan(Contar(Valores(tramo, i, grupo.Miembro)), grupo) ? 1 : 0;
+        return cuantos;
+    };
+    EscribirUnaAUna(tramo, casan, respuestas);
 }

@@ -28,6 +28,21 @@ int32_t Seguidos(const Tramo& tramo, const TablasSeguidos& tablas) {
 int32_t Colindantes(const Tramo& tramo, const TablasColindantes& t) {
     return NucleoColindantesEscalar(tramo, t);
 }
+void SumaFilas(const Tramo& tramo, const PorPosicion& numero, const Filas<2>& filas) {
+    FilasSumaEscalar(tramo, numero, filas);
+}
+void TriosFilas(const Tramo& tramo, const PorPosicion& numero, const Filas<2>& filas) {
+    FilasTriosEscalar(tramo, numero, filas);
+}
+void DistanciasFilas(const Tramo& tramo, const PorPosicion& numero, int8_t minimo, const Filas<6>& filas) {
+    FilasDistanciasEscalar(tramo, numero, minimo, filas);
+}
+void SeguidosRespuestas(const Tramo& tramo, const TablasSeguidos& t, uint8_t* respuestas) {
+    RespuestasSeguidosEscalar(tramo, t, respuestas);
+}
+void ColindantesRespuestas(const Tramo& tramo, const TablasColindantes& t, uint8_t* respuestas) {
+    RespuestasColindantesEscalar(tramo, t, respuestas);
+}
 
 #else
 
@@ -35,18 +50,32 @@ alignas(16) constexpr PorCuenta Bits{1, 2, 4, 8, 16, 32, 64, 128, 1, 2, 4, 8, 16
 
 // Six numbers add up to more than a byte holds, two trios do not: half the sum and its lowest bit
 // come from the sums of the trios.
-struct PruebaSumas {
-    Busqueda64 numero, mapa;
-    Busqueda16 bit{Bits};
-    explicit PruebaSumas(const TablasSumas& t) : numero(t.Numero), mapa(t.Mapa) {}
+struct SumaEnMitades {
+    Busqueda64 numero;
 
-    HWY_INLINE V operator()(const Tramo& tramo, int64_t i) const {
+    HWY_INLINE void Dar(const Tramo& tramo, int64_t i, V (&v)[2]) const {
         const Seis n(tramo, i, numero);
         const V a = n.Suma(0, 3), b = n.Suma(3, 6);
-        const V impar = hn::And(hn::Xor(a, b), hn::Set(d, 1));
-        const V mitad = hn::Sub(hn::AverageRound(a, b), impar);
-        const V resto = hn::And(hn::Add(hn::Add(mitad, mitad), impar), hn::Set(d, 7));
-        return hn::And(mapa(hn::ShiftRight<2>(mitad)), bit(resto));
+        v[1] = hn::And(hn::Xor(a, b), hn::Set(d, 1));
+        v[0] = hn::Sub(hn::AverageRound(a, b), v[1]);
+    }
+};
+
+void SumaFilas(const Tramo& tramo, const PorPosicion& numero, const Filas<2>& filas) {
+    EscribirFilas(tramo, SumaEnMitades{Busqueda64(numero)}, filas);
+}
+
+struct PruebaSumas {
+    SumaEnMitades sumar;
+    Busqueda64 mapa;
+    Busqueda16 bit{Bits};
+    explicit PruebaSumas(const TablasSumas& t) : sumar{Busqueda64(t.Numero)}, mapa(t.Mapa) {}
+
+    HWY_INLINE V operator()(const Tramo& tramo, int64_t i) const {
+        V suma[2];
+        sumar.Dar(tramo, i, suma);
+        const V resto = hn::And(hn::Add(hn::Add(suma[0], suma[0]), suma[1]), hn::Set(d, 7));
+        return hn::And(mapa(hn::ShiftRight<2>(suma[0])), bit(resto));
     }
 };
 
@@ -54,14 +83,30 @@ int32_t Sumas(const Tramo& tramo, const TablasSumas& tablas) {
     return Recorrer(tramo, PruebaSumas(tablas));
 }
 
+struct SumasDeTrios {
+    Busqueda64 numero;
+    HWY_INLINE void Dar(const Tramo& tramo, int64_t i, V (&v)[2]) const {
+        const Seis n(tramo, i, numero);
+        v[0] = n.Suma(0, 3);
+        v[1] = n.Suma(3, 6);
+    }
+};
+
+void TriosFilas(const Tramo& tramo, const PorPosicion& numero, const Filas<2>& filas) {
+    EscribirFilas(tramo, SumasDeTrios{Busqueda64(numero)}, filas);
+}
+
 struct PruebaTrios {
-    Busqueda64 numero, primeros, ultimos;
+    SumasDeTrios sumar;
+    Busqueda64 primeros, ultimos;
     Busqueda16 bit{Bits};
-    explicit PruebaTrios(const TablasTrios& t) : numero(t.Numero), primeros(t.Primeros), ultimos(t.Ultimos) {}
+    explicit PruebaTrios(const TablasTrios& t)
+        : sumar{Busqueda64(t.Numero)}, primeros(t.Primeros), ultimos(t.Ultimos) {}
 
     HWY_INLINE V operator()(const Tramo& tramo, int64_t i) const {
-        const Seis n(tramo, i, numero);
-        const V a = En(primeros, n.Suma(0, 3)), b = En(ultimos, n.Suma(3, 6));
+        V suma[2];
+        sumar.Dar(tramo, i, suma);
+        const V a = En(primeros, suma[0]), b = En(ultimos, suma[1]);
         return hn::And(hn::Min(a, hn::Set(d, 1)), hn::Min(b, hn::Set(d, 1)));
     }
     HWY_INLINE V En(const Busqueda64& mapa, V suma) const {
@@ -99,6 +144,21 @@ int32_t Distancias(const Tramo& tramo, const TablasDistancias& t) {
     return Recorrer(tramo, PruebaDistancias(t));
 }
 
+struct DistanciasDesde {
+    Busqueda64 numero;
+    V minimo;
+
+    HWY_INLINE void Dar(const Tramo& tramo, int64_t i, V (&v)[6]) const {
+        const Seis n(tramo, i, numero);
+        for (int k = 0; k < 5; ++k) v[k] = hn::Sub(hn::Sub(n.v[k + 1], n.v[k]), minimo);
+        v[5] = hn::Sub(hn::Sub(n.v[5], n.v[0]), minimo);
+    }
+};
+
+void DistanciasFilas(const Tramo& tramo, const PorPosicion& numero, int8_t minimo, const Filas<6>& filas) {
+    EscribirFilas(tramo, DistanciasDesde{Busqueda64(numero), hn::Set(d, static_cast<uint8_t>(minimo))}, filas);
+}
+
 struct PruebaSeguidos {
     Busqueda64 numero, pasa;
     explicit PruebaSeguidos(const TablasSeguidos& t) : numero(t.Numero), pasa(t.Pasa) {}
@@ -116,6 +176,10 @@ struct PruebaSeguidos {
 
 int32_t Seguidos(const Tramo& tramo, const TablasSeguidos& tablas) {
     return Recorrer(tramo, PruebaSeguidos(tablas));
+}
+
+void SeguidosRespuestas(const Tramo& tramo, const TablasSeguidos& tablas, uint8_t* respuestas) {
+    Escribir(tramo, PruebaSeguidos(tablas), respuestas);
 }
 
 struct PruebaColindantes {
@@ -148,6 +212,10 @@ int32_t Colindantes(const Tramo& tramo, const TablasColindantes& t) {
     return Recorrer(tramo, PruebaColindantes(t));
 }
 
+void ColindantesRespuestas(const Tramo& tramo, const TablasColindantes& t, uint8_t* respuestas) {
+    Escribir(tramo, PruebaColindantes(t), respuestas);
+}
+
 #endif
 } // namespace HWY_NAMESPACE
 } // namespace
@@ -160,6 +228,11 @@ HWY_EXPORT(Trios);
 HWY_EXPORT(Distancias);
 HWY_EXPORT(Seguidos);
 HWY_EXPORT(Colindantes);
+HWY_EXPORT(SumaFilas);
+HWY_EXPORT(TriosFilas);
+HWY_EXPORT(DistanciasFilas);
+HWY_EXPORT(SeguidosRespuestas);
+HWY_EXPORT(ColindantesRespuestas);
 } // namespace
 
 int32_t NucleoSumas(const Tramo& tramo, const TablasSumas& tablas) {
@@ -180,5 +253,25 @@ int32_t NucleoSeguidos(const Tramo& tramo, const TablasSeguidos& tablas) {
 
 int32_t NucleoColindantes(const Tramo& tramo, const TablasColindantes& tablas) {
     return HWY_DYNAMIC_DISPATCH(Colindantes)(tramo, tablas);
+}
+
+void FilasSuma(const Tramo& tramo, const PorPosicion& numero, const Filas<2>& filas) {
+    HWY_DYNAMIC_DISPATCH(SumaFilas)(tramo, numero, filas);
+}
+
+void FilasTrios(const Tramo& tramo, const PorPosicion& numero, const Filas<2>& filas) {
+    HWY_DYNAMIC_DISPATCH(TriosFilas)(tramo, numero, filas);
+}
+
+void FilasDistancias(const Tramo& tramo, const PorPosicion& numero, int8_t minimo, const Filas<6>& filas) {
+    HWY_DYNAMIC_DISPATCH(DistanciasFilas)(tramo, numero, minimo, filas);
+}
+
+void RespuestasSeguidos(const Tramo& tramo, const TablasSeguidos& tablas, uint8_t* respuestas) {
+    HWY_DYNAMIC_DISPATCH(SeguidosRespuestas)(tramo, tablas, respuestas);
+}
+
+void RespuestasColindantes(const Tramo& tramo, const TablasColindantes& tablas, uint8_t* respuestas) {
+    HWY_DYNAMIC_DISPATCH(ColindantesRespuestas)(tramo, tablas, respuestas);
 }
 #endif

@@ -13,9 +13,9 @@ namespace {
 namespace HWY_NAMESPACE {
 #if HWY_TARGET == HWY_SCALAR
 
-template <class Suma>
-void Ternas(const TablasTernas<Suma>& tablas, uint8_t* pasa) {
-    NucleoTernasEscalar(tablas, pasa);
+template <class Suma, class Respuesta>
+void Ternas(const TablasTernas<Suma>& tablas, Respuesta* respuestas) {
+    NucleoTernasEscalar(tablas, respuestas);
 }
 template <class Suma>
 void Sumar(const Suma* a, const Suma* b, size_t n, Suma* suma) {
@@ -51,7 +51,9 @@ class Pares {
         comun_ = static_cast<Suma>(t.Fin[0][-1] + ultimos[-1]);
     }
 
-    HWY_INLINE uint8_t* Escribir(uint8_t* pasa) const {
+    /// `Respuesta` is uint8_t for 1 or 0, and `Suma` for the values themselves.
+    template <class Respuesta>
+    HWY_INLINE Respuesta* Escribir(Respuesta* respuestas) const {
         const Suma *p = pares_, *t = ternas_;
         for (size_t i = 1; i < detras_; ++i) {
             const VS fijo = hn::Set(ds, static_cast<Suma>(comun_ + uno_[i - 1]));
@@ -59,19 +61,24 @@ class Pares {
             for (size_t j = 0; j < fila; j += hn::Lanes(ds)) {
                 const VS dos = hn::Add(hn::LoadU(ds, p + j), hn::LoadU(ds, t + j));
                 const VS suma = hn::Add(dos, hn::Add(hn::LoadU(ds, uno_ + i + j), fijo));
-                const auto cabe = hn::Eq(hn::Min(suma, ancho_), suma);
-                // Not TruncateTo, whose lanes Highway 1.0.3 mixes up.
-                const auto bits = hn::BitCast(di, hn::IfThenElseZero(cabe, hn::Set(ds, 1)));
-                hn::StoreU(hn::DemoteTo(d8, bits), d8, pasa + j);
+                EscribirEn(suma, respuestas + j);
             }
             p += fila;
             t += fila;
-            pasa += fila;
+            respuestas += fila;
         }
-        return pasa;
+        return respuestas;
     }
 
   private:
+    HWY_INLINE void EscribirEn(VS suma, uint8_t* pasa) const {
+        const auto cabe = hn::Eq(hn::Min(suma, ancho_), suma);
+        // Not TruncateTo, whose lanes Highway 1.0.3 mixes up.
+        const auto bits = hn::BitCast(di, hn::IfThenElseZero(cabe, hn::Set(ds, 1)));
+        hn::StoreU(hn::DemoteTo(d8, bits), d8, pasa);
+    }
+    HWY_INLINE void EscribirEn(VS suma, Suma* valores) const { hn::StoreU(suma, ds, valores); }
+
     static constexpr DS ds{};
     static constexpr hn::RebindToSigned<DS> di{};
     static constexpr hn::Rebind<uint8_t, DS> d8{};
@@ -83,9 +90,10 @@ class Pares {
     Suma uno_[64 + HolguraSumas];
 };
 
-template <class Suma>
-void Ternas(const TablasTernas<Suma>& tablas, uint8_t* pasa) {
-    for (size_t detras = tablas.Resto - 1; detras >= 2; --detras) pasa = Pares<Suma>(tablas, detras).Escribir(pasa);
+template <class Suma, class Respuesta>
+void Ternas(const TablasTernas<Suma>& tablas, Respuesta* respuestas) {
+    for (size_t detras = tablas.Resto - 1; detras >= 2; --detras)
+        respuestas = Pares<Suma>(tablas, detras).Escribir(respuestas);
 }
 
 struct PruebaVeredictos {
@@ -105,6 +113,12 @@ void Ternas16(const TablasTernas<uint16_t>& tablas, uint8_t* pasa) {
 void Ternas32(const TablasTernas<uint32_t>& tablas, uint8_t* pasa) {
     Ternas(tablas, pasa);
 }
+void Ternas16Valores(const TablasTernas<uint16_t>& tablas, uint16_t* valores) {
+    Ternas(tablas, valores);
+}
+void Ternas32Valores(const TablasTernas<uint32_t>& tablas, uint32_t* valores) {
+    Ternas(tablas, valores);
+}
 void Sumar16(const uint16_t* a, const uint16_t* b, size_t n, uint16_t* suma) {
     Sumar(a, b, n, suma);
 }
@@ -120,6 +134,8 @@ HWY_AFTER_NAMESPACE();
 namespace {
 HWY_EXPORT(Ternas16);
 HWY_EXPORT(Ternas32);
+HWY_EXPORT(Ternas16Valores);
+HWY_EXPORT(Ternas32Valores);
 HWY_EXPORT(Sumar16);
 HWY_EXPORT(Sumar32);
 HWY_EXPORT(Veredictos);
@@ -132,6 +148,14 @@ void NucleoTernas(const TablasTernas<uint16_t>& tablas, uint8_t* pasa) {
 template <>
 void NucleoTernas(const TablasTernas<uint32_t>& tablas, uint8_t* pasa) {
     HWY_DYNAMIC_DISPATCH(Ternas32)(tablas, pasa);
+}
+template <>
+void NucleoTernas(const TablasTernas<uint16_t>& tablas, uint16_t* valores) {
+    HWY_DYNAMIC_DISPATCH(Ternas16Valores)(tablas, valores);
+}
+template <>
+void NucleoTernas(const TablasTernas<uint32_t>& tablas, uint32_t* valores) {
+    HWY_DYNAMIC_DISPATCH(Ternas32Valores)(tablas, valores);
 }
 template <>
 void NucleoSumar(const uint16_t* a, const uint16_t* b, size_t n, uint16_t* suma) {

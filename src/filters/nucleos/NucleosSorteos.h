@@ -35,6 +35,11 @@ template <class Suma>
 void NucleoTernas(const TablasTernas<Suma>& tablas, uint8_t* pasa);
 template <class Suma>
 void NucleoTernasEscalar(const TablasTernas<Suma>& tablas, uint8_t* pasa);
+/// The same with the values themselves.
+template <class Suma>
+void NucleoTernas(const TablasTernas<Suma>& tablas, Suma* valores);
+template <class Suma>
+void NucleoTernasEscalar(const TablasTernas<Suma>& tablas, Suma* valores);
 
 /// suma[i] = a[i] + b[i]; the three may overlap in no element.
 template <class Suma>

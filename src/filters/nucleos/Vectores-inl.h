@@ -99,6 +99,25 @@ HWY_INLINE int32_t Recorrer(const Tramo& tramo, const Prueba& pasa) {
     return static_cast<int32_t>(marcadas);
 }
 
+/// Writes what `prueba(tramo, i)` gives for each bet of the stretch, live or not, up to the next multiple
+/// of 64.
+template <class Prueba>
+HWY_INLINE void Escribir(const Tramo& tramo, const Prueba& prueba, uint8_t* respuestas) {
+    const auto ancho = static_cast<int64_t>(hn::Lanes(d));
+    for (int64_t i = 0; i < tramo.n; i += ancho) hn::Store(prueba(tramo, i), d, respuestas + i);
+}
+
+/// The same with rows: `prueba.Dar(tramo, i, v)` gives a vector for each.
+template <size_t N, class Prueba>
+HWY_INLINE void EscribirFilas(const Tramo& tramo, const Prueba& prueba, const Filas<N>& filas) {
+    const auto ancho = static_cast<int64_t>(hn::Lanes(d));
+    for (int64_t i = 0; i < tramo.n; i += ancho) {
+        V v[N];
+        prueba.Dar(tramo, i, v);
+        for (size_t k = 0; k < N; ++k) hn::Store(v[k], d, filas[k] + i);
+    }
+}
+
 #endif
 } // namespace HWY_NAMESPACE
 } // namespace

@@ -1,0 +1,59 @@
+// The kernels that count the bets of a stretch by a value that another kernel has written. They keep
+// the contract of Nucleos.h, but for the flags, which say how each bet stands.
+#pragma once
+
+#include <vector>
+
+#include "Nucleos.h"
+
+/// A bet's flag while its table is counted.
+enum EstadoApuesta : uint8_t { ApuestaPasa, ApuestaRechazada, ApuestaMuerta };
+
+/// Live bets with one value, and those of them that pass.
+struct CuentaValor {
+    int32_t Apuestas = 0, Pasan = 0;
+    void Sumar(const CuentaValor& otra) {
+        Apuestas += otra.Apuestas;
+        Pasan += otra.Pasan;
+    }
+};
+
+/// Bets by a count of 1 to 6; who counts those with 0 is content with what is left.
+struct CuentaAciertos {
+    std::array<int64_t, 7> Pasan{}, Rechazadas{};
+};
+
+/// Adds the bets by bits 0 to 2 of their byte, or by bits 4 to 6 with `altos`.
+void NucleoContarAciertos(const Tramo& tramo, const uint8_t* valores, bool altos, CuentaAciertos& cuenta);
+void NucleoContarAciertosEscalar(const Tramo& tramo, const uint8_t* valores, bool altos, CuentaAciertos& cuenta);
+
+/// Bets by a value below `Valores`, whose bits 8 and up are the byte `alta`. Four counts take turns,
+/// because a count waits for the one before it when both are of the same value.
+class CuentaPalabras {
+  public:
+    static constexpr size_t Valores = 127 * 256;
+    static constexpr size_t Turnos = 4;
+
+    CuentaPalabras() : cuentas_(Turnos * PorTurno) {}
+
+    CuentaValor De(size_t valor) const;
+    int32_t* Cuentas(size_t turno) { return cuentas_.data() + turno * PorTurno; }
+
+    /// Where a bet of this value counts. What dead bets have in place of a value is above all others.
+    static constexpr size_t Lugar(size_t valor, uint8_t estado) {
+        return estado == ApuestaMuerta ? Muerta : valor + (estado == ApuestaRechazada ? Rechazo : 0);
+    }
+
+  private:
+    static constexpr size_t Rechazo = 1u << 15, Muerta = Valores, PorTurno = 1u << 16;
+
+    std::vector<int32_t> cuentas_;
+};
+
+/// Adds the bets by `baja` + 256 x `alta`, of one byte for each bet; a row that is null is all 0.
+void NucleoContarBytes(const Tramo& tramo, const uint8_t* baja, const uint8_t* alta, CuentaPalabras& cuenta);
+void NucleoContarBytesEscalar(const Tramo& tramo, const uint8_t* baja, const uint8_t* alta, CuentaPalabras& cuenta);
+
+/// Adds the bets by `valores`, all below `CuentaPalabras::Valores` for live bets; 64 more may be read.
+void NucleoContarPalabras(const Tramo& tramo, const uint16_t* valores, CuentaPalabras& cuenta);
+void NucleoContarPalabrasEscalar(const Tramo& tramo, const uint16_t* valores, CuentaPalabras& cuenta);

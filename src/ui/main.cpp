@@ -1,8 +1,10 @@
 #include <QApplication>
 #include <QLibraryInfo>
+#include <QTimer>
 #include <QTranslator>
 
 #include "Estilo.h"
+#include "LogicaPrincipal.h"
 #include "Sesiones.h"
 #include "TextoQt.h"
 #include "entornoQt.h"
@@ -22,5 +24,12 @@ int main(int argc, char** argv) {
     IniciarSesion(sesion, entorno);
     frmPrincipal principal(sesion, entorno);
     principal.show();
+    // A file that the desktop opens with the program, as if dropped on its window.
+    const QStringList argumentos = QApplication::arguments();
+    if (argumentos.size() > 1)
+        QTimer::singleShot(0, &principal, [&] {
+            LogicaPrincipal{sesion, entorno}.Soltar(Utf8(argumentos.at(1)));
+            principal.Pintar();
+        });
     return QApplication::exec();
 }

@@ -3,6 +3,7 @@
 #include <QTimer>
 #include <QTranslator>
 
+#include "Ayuda.h"
 #include "Estilo.h"
 #include "LogicaPrincipal.h"
 #include "Sesiones.h"
@@ -22,6 +23,7 @@ int main(int argc, char** argv) {
     Sesion sesion;
     Entorno entorno = EntornoQt();
     IniciarSesion(sesion, entorno);
+    const auto ayuda = CrearAyuda(entorno);
     frmPrincipal principal(sesion, entorno);
     principal.show();
     // A file that the desktop opens with the program, as if dropped on its window.

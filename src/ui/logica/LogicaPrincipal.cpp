@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "AyudaVentanas.h"
 #include "Boleto.h"
 #include "CalcularSistema.h"
 #include "ComandosFichero.h"
@@ -86,9 +87,7 @@ void LogicaPrincipal::CalculoPrueba() {
 }
 
 void LogicaPrincipal::AyudaOnline() {
-    const std::string& direccion = entorno.Sitio.empty() ? entorno.Manual : entorno.Sitio;
-    if (direccion.empty() || !entorno.AbrirDireccion(direccion))
-        Fallo(entorno, "ERROR: FICHERO DE AYUDA NO ENCONTRADO O ERRONEO");
+    AbrirAyuda(entorno, entorno.Sitio.empty() ? entorno.Manual : entorno.Sitio);
 }
 
 void LogicaPrincipal::Soltar(const std::string& ruta) {

@@ -68,6 +68,7 @@ struct EstadoTrabajo {
     Tabla ApuestasReducidas;
     Tabla ApuestasImportadas;
     int32_t NApuestasImportadas = 0;
+    uint32_t Importacion = 0; ///< grows with every import
     bool SinEliminadas = false;
 
     AjustesReduccion Reduccion;

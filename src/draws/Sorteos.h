@@ -17,6 +17,8 @@ struct Sorteo {
     int16_t anio = 0;
     uint16_t sorteo = 0; ///< in its year
     uint8_t dia = 0;     ///< code of the weekday, 0 unknown
+
+    bool operator==(const Sorteo&) const = default;
 };
 
 using Sorteos = std::vector<Sorteo>;

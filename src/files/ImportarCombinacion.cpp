@@ -31,6 +31,7 @@ void Empezar(const std::string& ruta, Sesion& sesion) {
     trabajo.CombinacionGuardada = false;
     trabajo.txtFicheroASCII = ruta;
     trabajo.ApuestasImportadas.Vaciar();
+    ++trabajo.Importacion;
     trabajo.ApuestasCondicionadas.Vaciar();
     trabajo.NApuestasImportadas = 0;
     LimpiarMarcas(trabajo);
@@ -94,6 +95,7 @@ void Analizar(EstadoTrabajo& trabajo, Entorno& entorno) {
 bool Importar(const std::string& ruta, Sesion& sesion, Entorno& entorno) {
     EstadoTrabajo& trabajo = sesion.trabajo;
     std::string& etiqueta = trabajo.Contador.Progreso;
+    ++trabajo.Importacion;
     trabajo.NApuestasImportadas = LeerApuestas(ruta, trabajo.chkReintegros, trabajo.ApuestasImportadas, &etiqueta,
                                                trabajo.JuegoActual(), entorno);
     trabajo.Contador.Iniciales = trabajo.NApuestasImportadas;

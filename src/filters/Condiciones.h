@@ -5,7 +5,8 @@
 #include "Sorteos.h"
 #include "lstFiltros.h"
 
-struct Condiciones {
+/// What the user sets in the nineteen dialogs.
+struct Parametros {
     RegistroALTOSBAJOS ALTOSBAJOS;
     RegistroDECENAS DECENAS;
     RegistroDISTANCIAS DISTANCIAS;
@@ -26,6 +27,10 @@ struct Condiciones {
     RegistroCOEFICIENTERENTABILIDAD COEFICIENTERENTABILIDAD;
     RegistroGRUPOSENTRELIMITES GRUPOSENTRELIMITES;
 
+    bool operator==(const Parametros&) const = default;
+};
+
+struct Condiciones : Parametros {
     /// The game's draws that SORTEOSANTERIORES judges by, as its dialog loaded them; empty when not loaded.
     Sorteos SorteosFiltro;
 

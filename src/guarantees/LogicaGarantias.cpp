@@ -107,7 +107,7 @@ void LogicaGarantias::Medir(int k) {
         hecha = MedirTotal(pedido, k, resultados.tabla);
     } else {
         total = Candidatas();
-        if (SinCalcular(trabajo)) TraducirImportadas(trabajo);
+        if (SinCalcular(trabajo)) TraducirImportadas(trabajo, trabajo, 7);
         hecha = MedirCandidatas(pedido, SinCalcular(trabajo) ? trabajo.TablaApuestas : trabajo.ApuestasCondicionadas,
                                 total, resultados.tabla);
     }

@@ -4,23 +4,20 @@
 #include <fmt/format.h>
 
 #include "Argumentos.h"
+#include "BaseDeOrden.h"
 #include "CalcularSistema.h"
 #include "GuardarCombinacion.h"
-#include "ImportarCombinacion.h"
-#include "LogicaFiltroSORTEOSANTERIORES.h"
 #include "MejorarReduccion.h"
 #include "Ordenes.h"
 #include "Reduccion.h"
-#include "RespuestaGuardada.h"
 #include "TablaFiltros.h"
 #include "TextoApuestas.h"
-#include "modXML.h"
 
 namespace {
 
 struct ArgumentosCalcular {
-    std::string Base, Importar, Sorteos, Guardar, Texto, Condicionadas;
-    bool Reintegros = false;
+    ArgumentosBase Partida;
+    std::string Guardar, Texto, Condicionadas;
     int32_t Ciclos = 0, Segundos = 0; ///< ends of a reduction, 0 where none was given
     int32_t Mejorar = 0, MejorarPasos = 0, MejorarSemilla = 1;
     bool Json = false;
@@ -73,20 +70,8 @@ bool GuardarFicheros(Lote& lote, const ArgumentosCalcular& argumentos) {
     return bien;
 }
 
-bool CargarSorteos(Lote& lote, const std::string& respuesta) {
-    ResponderConFichero(lote.entorno, respuesta);
-    LogicaFiltroSORTEOSANTERIORES dialogo{lote.sesion, lote.entorno};
-    dialogo.Abrir();
-    return dialogo.cmdCargar();
-}
-
 bool Calcular(Lote& lote, const ArgumentosCalcular& argumentos) {
-    if (!AbrirFicheroBase(argumentos.Base, lote.sesion, lote.entorno)) return false;
-    if (!argumentos.Importar.empty()) {
-        lote.sesion.trabajo.chkReintegros = argumentos.Reintegros;
-        if (!ImportarFichero(argumentos.Importar, lote.sesion, lote.entorno)) return false;
-    }
-    if (!argumentos.Sorteos.empty() && !CargarSorteos(lote, argumentos.Sorteos)) return false;
+    if (!AbrirBase(lote, argumentos.Partida)) return false;
     const bool mejorar = argumentos.Mejorar > 0 || argumentos.MejorarPasos > 0;
     if (mejorar && !ReduccionMejorable(lote.sesion, lote.entorno)) return false;
     const FinesMejora mejora{static_cast<double>(argumentos.Mejorar), argumentos.MejorarPasos,
@@ -105,13 +90,7 @@ void DeclararCalcular(CLI::App& programa, Lote& lote) {
     const auto argumentos = std::make_shared<ArgumentosCalcular>();
     CLI::App* orden = NuevaOrden(programa, lote, "calcular", "Calcula el sistema de un fichero base",
                                  [argumentos](Lote& l) { return Calcular(l, *argumentos); });
-    Fichero(orden, "BASE.xml", argumentos->Base, "Fichero base que se abre");
-    const Opcion importar =
-        Fichero(orden, "--importar", argumentos->Importar,
-                "Parte de las apuestas de este fichero; el fichero base sólo da condiciones y reducción");
-    Bandera(orden, "--reintegros", argumentos->Reintegros, "Carga también sus reintegros o sus sueños").VaCon(importar);
-    Fichero(orden, "--sorteos", argumentos->Sorteos,
-            "Carga de esta respuesta del servicio los sorteos de «Sorteos Anteriores»");
+    DeclararArgumentosBase(orden, argumentos->Partida);
     Entero(orden, "--ciclos", argumentos->Ciclos, 1, "Ciclos de una reducción que no acaba por sí sola; si falta, 1");
     Entero(orden, "--segundos", argumentos->Segundos, 1,
            "Segundos de esa reducción, en lugar de los ciclos o con ellos");

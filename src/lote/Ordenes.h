@@ -4,6 +4,7 @@
 #include "Argumentos.h"
 
 void DeclararCalcular(CLI::App& programa, Lote& lote);
+void DeclararAlVuelo(CLI::App& programa, Lote& lote);
 void DeclararBase(CLI::App& programa, Lote& lote);
 void DeclararEstadisticas(CLI::App& programa, Lote& lote);
 void DeclararActualizar(CLI::App& programa, Lote& lote);

@@ -35,6 +35,7 @@ int main(int argc, char** argv) {
     CLI::App programa;
     DeclararPrograma(programa, lote.opciones);
     DeclararCalcular(programa, lote);
+    DeclararAlVuelo(programa, lote);
     DeclararBase(programa, lote);
     DeclararEstadisticas(programa, lote);
     DeclararActualizar(programa, lote);

@@ -52,7 +52,7 @@ void ApagarNoDisponibles(Sesion& sesion) {
 
 void PrepararTabla(EstadoTrabajo& trabajo, Entorno& entorno) {
     if (trabajo.cboTipoCombinacion == PronosticoDesdeArchivo) {
-        TraducirImportadas(trabajo);
+        TraducirImportadas(trabajo, trabajo, 7);
     } else {
         GenerarApuestas(trabajo, entorno, 6, 6);
     }

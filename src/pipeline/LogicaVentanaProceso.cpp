@@ -131,7 +131,7 @@ void LogicaVentanaProceso::ReconstruirTablas() {
     EstadoTrabajo& trabajo = sesion.trabajo;
     if (trabajo.cboTipoCombinacion == PronosticoDesdeArchivo) {
         trabajo.SinEliminadas = false;
-        TraducirImportadas(trabajo);
+        TraducirImportadas(trabajo, trabajo, 7);
         trabajo.ApuestasEnTabla = static_cast<int32_t>(trabajo.TablaApuestas.Apuestas());
     } else if (trabajo.TablaApuestas.Filas() < 6 || trabajo.TablaApuestas.Apuestas() != trabajo.ApuestasEnTabla ||
                trabajo.TablaApuestas(6, 1) > trabajo.NumerosBase) {

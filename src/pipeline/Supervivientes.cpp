@@ -12,16 +12,18 @@ void PrepararEliminadas(EstadoTrabajo& trabajo) {
     std::memset(trabajo.ApuestaEliminada.Fila(1) + n, 1, 64);
 }
 
-void TraducirImportadas(EstadoTrabajo& trabajo) {
+void TraducirImportadas(const EstadoTrabajo& origen, EstadoTrabajo& trabajo, int filas) {
     PorPosicion posicion{};
     for (int p = 1; p <= trabajo.NumerosBase; ++p)
         posicion[trabajo.BaseNumeros[static_cast<size_t>(p)]] = static_cast<uint8_t>(p);
     // The count is shared with other readers of files and may exceed the bets that are here.
-    const int64_t n = std::min<int64_t>(trabajo.NApuestasImportadas, trabajo.ApuestasImportadas.Apuestas());
-    trabajo.TablaApuestas.DimensionarSinLimpiar(7, n);
+    const int64_t n = std::min<int64_t>(origen.NApuestasImportadas, origen.ApuestasImportadas.Apuestas());
+    trabajo.TablaApuestas.DimensionarSinLimpiar(filas, n);
+    if (n == 0) return;
     for (int r = 1; r <= 6; ++r)
-        Traducir(trabajo.ApuestasImportadas.Fila(r), n, posicion, trabajo.TablaApuestas.Fila(r));
-    std::memcpy(trabajo.TablaApuestas.Fila(7), trabajo.ApuestasImportadas.Fila(7), static_cast<size_t>(n));
+        Traducir(origen.ApuestasImportadas.Fila(r), n, posicion, trabajo.TablaApuestas.Fila(r));
+    if (filas == 7)
+        std::memcpy(trabajo.TablaApuestas.Fila(7), origen.ApuestasImportadas.Fila(7), static_cast<size_t>(n));
 }
 
 void CopiarSupervivientes(EstadoTrabajo& trabajo) {

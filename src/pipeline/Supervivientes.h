@@ -6,8 +6,9 @@
 /// `ApuestaEliminada` for `ApuestasEnTabla` bets, all alive.
 void PrepararEliminadas(EstadoTrabajo& trabajo);
 
-/// `TablaApuestas` in 7 rows from `ApuestasImportadas`: numbers become positions in the base, digits stay.
-void TraducirImportadas(EstadoTrabajo& trabajo);
+/// `TablaApuestas` of `trabajo` from the `ApuestasImportadas` of `origen`: numbers become positions in the
+/// base of `trabajo`. With `filas` 7 the digits come too; with 6 they are left out.
+void TraducirImportadas(const EstadoTrabajo& origen, EstadoTrabajo& trabajo, int filas);
 
 /// `ApuestasCondicionadas` from the bets of `TablaApuestas` that are alive, in order, with as many rows.
 void CopiarSupervivientes(EstadoTrabajo& trabajo);

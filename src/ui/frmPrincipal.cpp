@@ -10,6 +10,7 @@
 #include "DialogosFiltro.h"
 #include "SoltarFicheros.h"
 #include "TextoQt.h"
+#include "TextosAlVuelo.h"
 #include "Ventanas.h"
 #include "VistaFiltros.h"
 #include "frmAlazar.h"
@@ -37,7 +38,8 @@ QComboBox* CrearLista(QWidget* padre, const QString& nombre, const QString& acce
 
 } // namespace
 
-frmPrincipal::frmPrincipal(Sesion& sesion, Entorno& entorno) : logica{sesion, entorno}, pintor([this] { Pintar(); }) {
+frmPrincipal::frmPrincipal(Sesion& sesion, Entorno& entorno)
+    : logica{sesion, entorno}, alVuelo(sesion, [this] { PintarAlVuelo(); }), pintor([this] { Pintar(); }) {
     setObjectName(Q("frmPrincipal"));
     setWindowIcon(IconoPrograma());
     AceptarFicheros(
@@ -191,6 +193,8 @@ void frmPrincipal::Pintar() {
                           Q(logica.lblApuestasReducidas()), Q(logica.lblTipoCombinacion()),
                           !trabajo.Contador.Progreso.empty(), trabajo.EstadoCalculando);
     PintarPanelEspera(espera, trabajo.picVentanaEspera);
+    if (!bloqueada) alVuelo.Mirar();
+    PintarAlVuelo();
     if (!bloqueada && focoAnterior != nullptr) {
         focoAnterior->setFocus();
         focoAnterior = nullptr;
@@ -227,6 +231,19 @@ void frmPrincipal::PintarBoleto() {
     chkReintegros->setEnabled(!logica.Bloqueada());
     cboTipoReintegro->setCurrentIndex(trabajo.cboTipoReintegro);
     cboTipoReintegro->setEnabled(habilitado);
+}
+
+void frmPrincipal::PintarAlVuelo() {
+    const Entorno& entorno = logica.entorno;
+    const CuentaAlVuelo* cuenta = alVuelo.Cuenta();
+    const std::string falta = alVuelo.SinMemoria() ? "no hay memoria suficiente" : FaltaBase(logica.sesion.trabajo);
+    const std::string texto =
+        cuenta != nullptr && falta.empty() ? TextoAlVuelo(*cuenta, entorno) : "Al vuelo: " + falta;
+    ::PintarAlVuelo(contadores, Q(texto), alVuelo.AlDia());
+    std::array<QString, NFiltros> costes;
+    for (size_t k = 0; cuenta != nullptr && k < costes.size(); ++k)
+        if (cuenta->Costes[k]) costes[k] = Q(TextoCoste(*cuenta->Costes[k], entorno));
+    PonerCostes(lstFiltros, costes);
 }
 
 void frmPrincipal::Hacer(Orden orden) {

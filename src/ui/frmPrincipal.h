@@ -6,6 +6,7 @@
 #include <QMainWindow>
 
 #include "BarraOrdenes.h"
+#include "ContadorAlVuelo.h"
 #include "LogicaPrincipal.h"
 #include "PanelContadores.h"
 #include "Pintores.h"
@@ -33,6 +34,7 @@ class frmPrincipal final : public QMainWindow {
     void CrearPortapapeles(QWidget* boleto);
     void PintarJuego();
     void PintarBoleto();
+    void PintarAlVuelo();
     void Hacer(Orden orden);
     void AbrirFila(int k);
     void CambiarTipoCombinacion(int indice);
@@ -50,6 +52,7 @@ class frmPrincipal final : public QMainWindow {
     QWidget* picCuadroReintegros = nullptr;
     QTreeWidget* lstFiltros = nullptr;
     PanelContadores contadores;
+    ContadorAlVuelo alVuelo;
     PanelEspera espera;
     QPointer<QWidget> focoAnterior; ///< what had the focus when the window was locked
     Pintor pintor;

@@ -23,7 +23,7 @@ TEST_P(Ayuda, EsLaGuardada) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Ordenes, Ayuda,
-                         testing::Values("programa", "calcular", "base", "ver", "resumen", "eliminadas", "analisis",
+                         testing::Values("programa", "calcular", "al-vuelo", "base", "ver", "resumen", "eliminadas", "analisis",
                                          "garantias", "minigarantias", "escrutar", "multiescrutinio", "multifichero",
                                          "premios", "estadisticas", "actualizar", "algebra", "rentabilidad",
                                          "generar-numeros", "generar-porcentajes", "sistema-propio"),

@@ -81,7 +81,7 @@ TEST(Supervivientes, ImportadasComoPosiciones) {
         // A file of draws, loaded meanwhile, leaves its own count.
         for (const int32_t cuenta : {1000, 999, 0, 1001, 9361, 1000}) {
             trabajo.NApuestasImportadas = cuenta;
-            TraducirImportadas(trabajo);
+            TraducirImportadas(trabajo, trabajo, 7);
             const std::vector<Apuesta> traducidas(posiciones.begin(), posiciones.begin() + std::min(cuenta, 1000));
             EXPECT_EQ(Apuestas(trabajo.TablaApuestas, 7), traducidas);
         }

@@ -29,8 +29,11 @@
 namespace {
 
 DialogoProbado DeFila(const std::string& nombre, int k, bool soloVolver = false, bool cambiaConJuego = false) {
-    return {nombre, [k](Guion& g) { return CrearDialogoFiltro(k, g.sesion, g.entorno, nullptr); }, soloVolver,
-            cambiaConJuego};
+    const auto crear = [k](Guion& g) {
+        g.MarcarHasta(24);
+        return CrearDialogoFiltro(k, g.sesion, g.entorno, nullptr);
+    };
+    return {nombre, crear, soloVolver, cambiaConJuego};
 }
 
 DialogoProbado ConNumeros(const std::string& nombre, int k, bool soloVolver = false) {

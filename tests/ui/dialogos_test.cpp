@@ -9,6 +9,7 @@
 
 #include <set>
 
+#include "PanelReparto.h"
 #include "Sesiones.h"
 #include "Ventanas.h"
 #include "dialogos.h"
@@ -120,6 +121,8 @@ QPalette Oscura() {
 }
 
 void Retratar(QWidget& ventana, const QString& nombre, qreal escala) {
+    for (const QWidget* panel : ventana.findChildren<QWidget*>(Q("panelReparto")))
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !static_cast<const PanelReparto*>(panel)->EnMarcha(); }, 20000));
     QPixmap retrato(ventana.size() * escala);
     retrato.setDevicePixelRatio(escala);
     ventana.render(&retrato);

@@ -61,13 +61,17 @@ void LogicaFiltroCR::imgCalcular() {
     ControlesHabilitados = true;
 }
 
+void LogicaFiltroCR::Volcar(Condiciones& condiciones) const {
+    RegistroCOEFICIENTERENTABILIDAD& registro = condiciones.COEFICIENTERENTABILIDAD;
+    Guardar(txtPorcentajesApostados, registro.PorcentajesApostados);
+    Guardar(txtPorcentajesReales, registro.PorcentajesReales);
+    std::copy(lstCR.begin(), lstCR.end(), registro.RangosCR.begin());
+}
+
 bool LogicaFiltroCR::PuedeCerrar() {
     if (!SinErrores(txtPorcentajesApostados, TablaCR::Apostados, entorno) ||
         !SinErrores(txtPorcentajesReales, TablaCR::Reales, entorno))
         return false;
-    RegistroCOEFICIENTERENTABILIDAD& registro = sesion.condiciones.COEFICIENTERENTABILIDAD;
-    Guardar(txtPorcentajesApostados, registro.PorcentajesApostados);
-    Guardar(txtPorcentajesReales, registro.PorcentajesReales);
-    std::copy(lstCR.begin(), lstCR.end(), registro.RangosCR.begin());
+    Volcar(sesion.condiciones);
     return true;
 }

@@ -33,6 +33,8 @@ struct LogicaFiltroCR {
     /// by a tool of their own.
     void imgCalcular();
 
+    /// Puts in `condiciones` what the controls show, checked or not; what does not fit its field stays as it is.
+    void Volcar(Condiciones& condiciones) const;
     /// Stores the fields, leaving the old value for a blank one, and the items chosen. A field that is
     /// no number is told, and then nothing is stored.
     bool PuedeCerrar();

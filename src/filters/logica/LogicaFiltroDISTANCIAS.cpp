@@ -35,7 +35,11 @@ bool LogicaFiltroDISTANCIAS::Validar() {
 
 bool LogicaFiltroDISTANCIAS::PuedeCerrar() {
     if (!Validar()) return false;
-    auto& distancia = sesion.condiciones.DISTANCIAS.Distancia;
-    for (size_t i = 0; i < distancia.size(); ++i) distancia[i] = LeerIntervalo(txtDistanciaMin[i], txtDistanciaMax[i]);
+    Volcar(sesion.condiciones);
     return true;
+}
+
+void LogicaFiltroDISTANCIAS::Volcar(Condiciones& condiciones) const {
+    auto& distancia = condiciones.DISTANCIAS.Distancia;
+    for (size_t i = 0; i < distancia.size(); ++i) LeerIntervalo(txtDistanciaMin[i], txtDistanciaMax[i], distancia[i]);
 }

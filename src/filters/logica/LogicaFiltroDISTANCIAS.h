@@ -32,6 +32,8 @@ struct LogicaFiltroDISTANCIAS {
     void Abrir();
     void CambiarMin(size_t i, const std::string& texto);
     void CambiarMax(size_t i, const std::string& texto);
+    /// Puts in `condiciones` what the controls show, checked or not; what does not fit its field stays as it is.
+    void Volcar(Condiciones& condiciones) const;
     /// Stores the twelve values if all are good; otherwise tells the first fault and stores none.
     bool PuedeCerrar();
 

@@ -47,8 +47,13 @@ void LogicaFiltroGRUPOSENTRELIMITES::CerrarModificar(size_t i, const LogicaAcier
     CerrarAciertos(aciertos, marco, Grupo(i).aciertos, txtAciertos[i]);
 }
 
+void LogicaFiltroGRUPOSENTRELIMITES::Volcar(Condiciones& condiciones) const {
+    condiciones.GRUPOSENTRELIMITES.aciertosMinimoGRUPOSENTRELIMITES = cboIntervalo1;
+    condiciones.GRUPOSENTRELIMITES.aciertosMaximoGRUPOSENTRELIMITES = cboIntervalo2;
+}
+
 bool LogicaFiltroGRUPOSENTRELIMITES::PuedeCerrar() {
-    RegistroGRUPOSENTRELIMITES& registro = sesion.condiciones.GRUPOSENTRELIMITES;
+    const RegistroGRUPOSENTRELIMITES& registro = sesion.condiciones.GRUPOSENTRELIMITES;
     for (size_t g = 0; g < registro.grupo.size(); ++g) {
         const bool numeros = EnVigor(registro.grupo[g].numeros), aciertos = EnVigor(registro.grupo[g].aciertos);
         const std::string prefijo = "ERROR en GRUPO" + std::to_string(g + 1);
@@ -56,8 +61,7 @@ bool LogicaFiltroGRUPOSENTRELIMITES::PuedeCerrar() {
         if (!numeros && aciertos)
             return Fallo(entorno, prefijo + " : No ha marcado ningún número y hay aciertos seleccionados");
     }
-    registro.aciertosMinimoGRUPOSENTRELIMITES = cboIntervalo1;
-    registro.aciertosMaximoGRUPOSENTRELIMITES = cboIntervalo2;
+    Volcar(sesion.condiciones);
     if (cboIntervalo1 > cboIntervalo2)
         return Fallo(entorno, "ERROR en LIMITE DE GRUPOS : El número de aciertos máximo es menor que el mínimo");
     return true;

@@ -34,6 +34,8 @@ struct LogicaFiltroGRUPOSENTRELIMITES {
     LogicaAciertos AbrirModificar(size_t i) { return AbrirAciertos(Grupo(i).aciertos, 0); }
     void CerrarModificar(size_t i, const LogicaAciertos& aciertos);
 
+    /// Puts in `condiciones` what the controls show, checked or not; what does not fit its field stays as it is.
+    void Volcar(Condiciones& condiciones) const;
     /// Tells the first fault of the 210 groups; without one stores the limits and tells if they are
     /// the wrong way round. The page stays as it is.
     bool PuedeCerrar();

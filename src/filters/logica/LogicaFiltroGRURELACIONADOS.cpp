@@ -47,16 +47,21 @@ void LogicaFiltroGRURELACIONADOS::CerrarModificar(size_t i, const LogicaAciertos
 }
 
 bool LogicaFiltroGRURELACIONADOS::PuedeCerrar() {
-    RegistroGRUPOSRELACIONADOS& registro = sesion.condiciones.GRUPOSRELACIONADOS;
+    const RegistroGRUPOSRELACIONADOS& registro = sesion.condiciones.GRUPOSRELACIONADOS;
     for (size_t b = 0; b < registro.subgrupos.size(); b += Filas) {
         const std::string_view falta =
             FaltaDe(std::span(registro.subgrupos).subspan(b, Filas), std::span(registro.condiciones).subspan(b, Filas));
         if (!falta.empty())
             return Fallo(entorno, "ERROR en GRUPO" + std::to_string(b / Filas + 1) + " : " + std::string(falta));
     }
-    for (size_t b = 0; b < registro.subgrupos.size(); b += Filas) {
-        const auto grupo = std::span(registro.subgrupos).subspan(b, Filas);
+    Volcar(sesion.condiciones);
+    return true;
+}
+
+void LogicaFiltroGRURELACIONADOS::Volcar(Condiciones& condiciones) const {
+    auto& subgrupos = condiciones.GRUPOSRELACIONADOS.subgrupos;
+    for (size_t b = 0; b < subgrupos.size(); b += Filas) {
+        const auto grupo = std::span(subgrupos).subspan(b, Filas);
         std::stable_partition(grupo.begin(), grupo.end(), EnVigor<MarcasNumeros>);
     }
-    return true;
 }

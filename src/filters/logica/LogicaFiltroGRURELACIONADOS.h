@@ -32,6 +32,8 @@ struct LogicaFiltroGRURELACIONADOS {
     LogicaAciertos AbrirModificar(size_t i);
     void CerrarModificar(size_t i, const LogicaAciertos& aciertos);
 
+    /// Puts in `condiciones` what the controls show, checked or not.
+    void Volcar(Condiciones& condiciones) const;
     /// Tells the first fault of the 60 groups. Without one the subgroups in use move up to the first
     /// rows of their group, as the evaluator needs them; the conditions stay in their rows.
     bool PuedeCerrar();

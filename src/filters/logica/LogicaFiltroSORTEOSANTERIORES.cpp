@@ -61,7 +61,7 @@ void LogicaFiltroSORTEOSANTERIORES::MostrarCargados() {
 }
 
 // The group as its controls show it. What the boxes offer, and what a file can bring, fits 16 bits.
-BloqueSorteos LogicaFiltroSORTEOSANTERIORES::EnPantalla() {
+BloqueSorteos LogicaFiltroSORTEOSANTERIORES::EnPantalla() const {
     BloqueSorteos grupo = Grupo();
     grupo.DESDE = {static_cast<int16_t>(cboAnioINI), static_cast<int16_t>(cboSorteoINI)};
     grupo.HASTA = {static_cast<int16_t>(cboAnioFIN), static_cast<int16_t>(cboSorteoFIN)};
@@ -179,9 +179,15 @@ bool LogicaFiltroSORTEOSANTERIORES::GuardarGrupo() {
     if (!Cabe(txtSorteoMINIMO) || !Cabe(txtSorteoMAXIMO))
         return FalloGrupo(": El número de sorteos no puede ser mayor que " + std::to_string(INT32_MAX));
     if (!txtAciertos.empty() && !ValidarGrupo()) return false;
-    BloqueSorteos grupo = EnPantalla();
-    grupo.aciertosMinimoSORTEOS = ValorCampo(txtSorteoMINIMO);
-    grupo.aciertosMaximoSORTEOS = ValorCampo(txtSorteoMAXIMO);
-    Grupo() = grupo;
+    Volcar(sesion.condiciones);
     return true;
+}
+
+void LogicaFiltroSORTEOSANTERIORES::Volcar(Condiciones& condiciones) const {
+    BloqueSorteos grupo = EnPantalla();
+    if (Cabe(txtSorteoMINIMO) && Cabe(txtSorteoMAXIMO)) {
+        grupo.aciertosMinimoSORTEOS = ValorCampo(txtSorteoMINIMO);
+        grupo.aciertosMaximoSORTEOS = ValorCampo(txtSorteoMAXIMO);
+    }
+    condiciones.SORTEOSANTERIORES.grupo[bloque.Grupo(0)] = grupo;
 }

@@ -48,11 +48,15 @@ struct LogicaFiltroSORTEOSANTERIORES {
     /// Each stores the group and moves one on or back; with a fault it tells it and stays.
     void cmdMASBloque();
     void cmdMENOSBloque();
+    /// Puts the group in `condiciones` what the controls show, checked or not; what does not fit its field stays as it
+    /// is.
+    void Volcar(Condiciones& condiciones) const;
     bool PuedeCerrar() { return GuardarGrupo(); }
 
   private:
+    const BloqueSorteos& Grupo() const { return sesion.condiciones.SORTEOSANTERIORES.grupo[bloque.Grupo(0)]; }
     BloqueSorteos& Grupo() { return sesion.condiciones.SORTEOSANTERIORES.grupo[bloque.Grupo(0)]; }
-    BloqueSorteos EnPantalla();
+    BloqueSorteos EnPantalla() const;
     void MostrarGrupo();
     void MostrarCargados();
     void Recontar();

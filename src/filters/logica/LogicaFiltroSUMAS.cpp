@@ -35,10 +35,14 @@ bool LogicaFiltroSUMAS::Validar(size_t i) {
     return true;
 }
 
+void LogicaFiltroSUMAS::Volcar(Condiciones& condiciones) const {
+    auto& intervalos = condiciones.SUMAS.intervalos;
+    for (size_t i = 0; i < intervalos.size(); ++i) LeerIntervalo(txtSumaMinima[i], txtSumaMaxima[i], intervalos[i]);
+}
+
 bool LogicaFiltroSUMAS::PuedeCerrar() {
-    auto& intervalos = sesion.condiciones.SUMAS.intervalos;
-    for (size_t i = 0; i < intervalos.size(); ++i)
+    for (size_t i = 0; i < txtSumaMinima.size(); ++i)
         if (!Validar(i)) return false;
-    for (size_t i = 0; i < intervalos.size(); ++i) intervalos[i] = LeerIntervalo(txtSumaMinima[i], txtSumaMaxima[i]);
+    Volcar(sesion.condiciones);
     return true;
 }

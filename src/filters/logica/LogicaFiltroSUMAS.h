@@ -18,6 +18,8 @@ struct LogicaFiltroSUMAS {
     void Abrir();
     void CambiarMinima(size_t i, const std::string& texto);
     void CambiarMaxima(size_t i, const std::string& texto);
+    /// Puts in `condiciones` what the controls show, checked or not; what does not fit its field stays as it is.
+    void Volcar(Condiciones& condiciones) const;
     /// Stores the twenty values if all ten intervals are good; otherwise tells the first fault and
     /// stores none.
     bool PuedeCerrar();

@@ -55,16 +55,20 @@ bool LogicaFiltroSUMASPORTRIOS::ValidarTamanio(size_t i) {
     return true;
 }
 
+void LogicaFiltroSUMASPORTRIOS::Volcar(Condiciones& condiciones) const {
+    RegistroSUMASPORTRIOS& registro = condiciones.SUMASPORTRIOS;
+    for (size_t i = 0; i < txtSumaMinimaT1.size(); ++i) {
+        LeerIntervalo(txtSumaMinimaT1[i], txtSumaMaximaT1[i], registro.intervalosT1[i]);
+        LeerIntervalo(txtSumaMinimaT2[i], txtSumaMaximaT2[i], registro.intervalosT2[i]);
+    }
+}
+
 bool LogicaFiltroSUMASPORTRIOS::PuedeCerrar() {
     const size_t total = txtSumaMinimaT1.size();
     for (size_t i = 0; i < total; ++i)
         if (!Validar(i)) return false;
     for (size_t i = 0; i < total; ++i)
         if (!ValidarTamanio(i)) return false;
-    RegistroSUMASPORTRIOS& registro = sesion.condiciones.SUMASPORTRIOS;
-    for (size_t i = 0; i < total; ++i) {
-        registro.intervalosT1[i] = LeerIntervalo(txtSumaMinimaT1[i], txtSumaMaximaT1[i]);
-        registro.intervalosT2[i] = LeerIntervalo(txtSumaMinimaT2[i], txtSumaMaximaT2[i]);
-    }
+    Volcar(sesion.condiciones);
     return true;
 }

@@ -21,6 +21,8 @@ struct LogicaFiltroSUMASPORTRIOS {
     void CambiarMaximaT1(size_t i, const std::string& texto);
     void CambiarMinimaT2(size_t i, const std::string& texto);
     void CambiarMaximaT2(size_t i, const std::string& texto);
+    /// Puts in `condiciones` what the controls show, checked or not; what does not fit its field stays as it is.
+    void Volcar(Condiciones& condiciones) const;
     /// Stores the twenty values if all are good; otherwise tells the first fault and stores none.
     bool PuedeCerrar();
 

@@ -19,8 +19,23 @@ void LogicaFiltroSencillo::PulsarCasilla(size_t i, bool marcada) {
     marco.ActivarFiltro();
 }
 
-bool LogicaFiltroSencillo::PuedeCerrar() {
+void LogicaFiltroSencillo::PulsarBarra(size_t apartado, int32_t valor) {
+    if (apartado < filtro.Tablas.size()) {
+        if (valor < filtro.MinimoAcierto) return;
+        LogicaAciertos aciertos = AbrirModificar(apartado);
+        aciertos.Pulsar(valor);
+        CerrarModificar(apartado, aciertos);
+    } else if (const auto i = static_cast<size_t>(valor); i < filtro.Casillas.size()) {
+        PulsarCasilla(i, !chkFigura[i]);
+    }
+}
+
+void LogicaFiltroSencillo::Volcar(Condiciones& condiciones) const {
     if (!filtro.GuardaAlPulsar)
-        for (size_t i = 0; i < filtro.Casillas.size(); ++i) filtro.Marcas(sesion.condiciones)[i] = chkFigura[i];
+        for (size_t i = 0; i < filtro.Casillas.size(); ++i) filtro.Marcas(condiciones)[i] = chkFigura[i];
+}
+
+bool LogicaFiltroSencillo::PuedeCerrar() {
+    Volcar(sesion.condiciones);
     return true;
 }

@@ -22,6 +22,10 @@ struct LogicaFiltroSencillo {
     void CerrarModificar(size_t i, const LogicaAciertos& aciertos);
     /// A click on box i, which turns the filter on and is stored now or at the close.
     void PulsarCasilla(size_t i, bool marcada);
+    /// A click on the bar of `valor`, be it a hit of table `apartado` or, behind the tables, a box.
+    void PulsarBarra(size_t apartado, int32_t valor);
+    /// Puts in `condiciones` what the controls show, stored or not.
+    void Volcar(Condiciones& condiciones) const;
     /// Stores the boxes. Always true.
     bool PuedeCerrar();
 };

@@ -44,11 +44,28 @@ bool LogicaFiltroTERMINACIONES::Validar() {
     return true;
 }
 
+void LogicaFiltroTERMINACIONES::PulsarBarra(size_t apartado, int32_t valor) {
+    const size_t suma = txtAciertos.size(), i = static_cast<size_t>(valor);
+    if (apartado < suma) {
+        LogicaAciertos aciertos = AbrirModificar(apartado);
+        aciertos.Pulsar(valor);
+        CerrarModificar(apartado, aciertos);
+    } else if (apartado > suma && i < chkFigura.size()) {
+        PulsarFigura(i, !chkFigura[i]);
+    }
+}
+
+void LogicaFiltroTERMINACIONES::Volcar(Condiciones& condiciones) const {
+    RegistroTERMINACIONES& registro = condiciones.TERMINACIONES;
+    std::copy(chkFigura.begin(), chkFigura.end(), registro.FigurasTerminaciones.begin());
+    const int32_t minimo = ValorCampo(txtSumaTerminacionesMinimo), maximo = ValorCampo(txtSumaTerminacionesMaximo);
+    if (minimo > UINT8_MAX || maximo > UINT8_MAX) return;
+    registro.SumaMinima = static_cast<uint8_t>(minimo);
+    registro.SumaMaxima = static_cast<uint8_t>(maximo);
+}
+
 bool LogicaFiltroTERMINACIONES::PuedeCerrar() {
     if (!Validar()) return false;
-    RegistroTERMINACIONES& registro = sesion.condiciones.TERMINACIONES;
-    std::copy(chkFigura.begin(), chkFigura.end(), registro.FigurasTerminaciones.begin());
-    registro.SumaMinima = static_cast<uint8_t>(ValorCampo(txtSumaTerminacionesMinimo));
-    registro.SumaMaxima = static_cast<uint8_t>(ValorCampo(txtSumaTerminacionesMaximo));
+    Volcar(sesion.condiciones);
     return true;
 }

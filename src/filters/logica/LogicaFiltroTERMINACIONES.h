@@ -33,6 +33,10 @@ struct LogicaFiltroTERMINACIONES {
     void CambiarMinimo(const std::string& texto);
     void CambiarMaximo(const std::string& texto);
     void PulsarFigura(size_t i, bool marcada);
+    /// A click on the bar of `valor`: a hit of the digit `apartado`, or a figure in the last section.
+    void PulsarBarra(size_t apartado, int32_t valor);
+    /// Puts in `condiciones` what the controls show, checked or not; what does not fit its field stays as it is.
+    void Volcar(Condiciones& condiciones) const;
     /// Stores the sum and the figures if the sum is good; otherwise tells the first fault and stores
     /// neither.
     bool PuedeCerrar();

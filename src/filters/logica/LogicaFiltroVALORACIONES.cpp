@@ -92,9 +92,15 @@ bool LogicaFiltroVALORACIONES::GuardarGrupo() {
         return FalloGrupo(": Hay intervalos activos y no ha seleccionado ninguna valoración en los números");
     if (hayMarcas && !hayIntervalos)
         return FalloGrupo(": Hay seleccionadas valoraciones de números y no ha activado ningún intervalo");
-    for (size_t i = 0; i < grupo.intervalos.size(); ++i)
-        grupo.intervalos[i] = LeerIntervalo(txtValoracionMinima[i], txtValoracionMaxima[i]);
+    Volcar(sesion.condiciones);
     return true;
+}
+
+void LogicaFiltroVALORACIONES::Volcar(Condiciones& condiciones) const {
+    GrupoValoraciones& grupo = condiciones.VALORACIONES.grupo[bloque.Grupo(0)];
+    std::copy(cboPorcentaje.begin(), cboPorcentaje.end(), grupo.valoraciones.begin() + 1);
+    for (size_t i = 0; i < grupo.intervalos.size(); ++i)
+        LeerIntervalo(txtValoracionMinima[i], txtValoracionMaxima[i], grupo.intervalos[i]);
 }
 
 void LogicaFiltroVALORACIONES::cmdAbrirPorcentajes() {

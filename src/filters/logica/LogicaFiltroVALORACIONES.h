@@ -46,6 +46,9 @@ struct LogicaFiltroVALORACIONES {
     /// "3 Valoraciones Seleccionadas".
     std::string lblTitNumeros() const;
 
+    /// Puts the group in `condiciones` what the controls show, checked or not; what does not fit its field stays as it
+    /// is.
+    void Volcar(Condiciones& condiciones) const;
     bool PuedeCerrar() { return GuardarGrupo(); }
 
   private:

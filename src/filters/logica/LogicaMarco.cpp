@@ -47,6 +47,8 @@ void MostrarIntervalo(const Intervalo& intervalo, std::string& minimo, std::stri
     maximo = std::to_string(intervalo.Maximo);
 }
 
-Intervalo LeerIntervalo(const std::string& minimo, const std::string& maximo) {
-    return {static_cast<int16_t>(ValorCampo(minimo)), static_cast<int16_t>(ValorCampo(maximo))};
+void LeerIntervalo(const std::string& minimo, const std::string& maximo, Intervalo& intervalo) {
+    const int32_t desde = ValorCampo(minimo), hasta = ValorCampo(maximo);
+    if (desde <= MaximoIntervalo && hasta <= MaximoIntervalo)
+        intervalo = {static_cast<int16_t>(desde), static_cast<int16_t>(hasta)};
 }

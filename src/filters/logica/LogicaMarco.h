@@ -36,6 +36,8 @@ int32_t ValorCampo(const std::string& campo);
 /// The highest value that a bound of 16 bits takes.
 inline constexpr int32_t MaximoIntervalo = INT16_MAX;
 
-/// The interval in two fields, and back. Both fields fit 16 bits by then.
+/// The interval in two fields.
 void MostrarIntervalo(const Intervalo& intervalo, std::string& minimo, std::string& maximo);
-Intervalo LeerIntervalo(const std::string& minimo, const std::string& maximo);
+
+/// The interval that two fields show. Without effect while one of them holds no number of 16 bits.
+void LeerIntervalo(const std::string& minimo, const std::string& maximo, Intervalo& intervalo);

@@ -29,8 +29,8 @@ Dialogo Crear(Sesion& sesion, Entorno& entorno, QWidget* padre) {
 }
 
 template <int k>
-Dialogo CrearSencillo(Sesion& sesion, Entorno&, QWidget* padre) {
-    return std::make_unique<frmFiltroSencillo>(sesion, *FiltroSencilloDeFila(k), padre);
+Dialogo CrearSencillo(Sesion& sesion, Entorno& entorno, QWidget* padre) {
+    return std::make_unique<frmFiltroSencillo>(sesion, entorno, *FiltroSencilloDeFila(k), padre);
 }
 
 constexpr std::array<Fabrica, NFilas> Fabricas = [] {

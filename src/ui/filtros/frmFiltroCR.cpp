@@ -1,6 +1,7 @@
 #include "frmFiltroCR.h"
 
 #include "ListaCR.h"
+#include "PanelReparto.h"
 #include "TextoQt.h"
 
 frmFiltroCR::frmFiltroCR(Sesion& sesion, Entorno& entorno, QWidget* padre) : QDialog(padre), logica{sesion, entorno} {
@@ -16,6 +17,17 @@ frmFiltroCR::frmFiltroCR(Sesion& sesion, Entorno& entorno, QWidget* padre) : QDi
     txtPorcentajesApostados = CrearTabla(*columnas, TablaCR::Apostados, "PROBABILIDAD APOSTADA (%)", "Apostados");
     txtPorcentajesReales = CrearTabla(*columnas, TablaCR::Reales, "PROBABILIDAD REAL (%)", "Reales");
     CrearCoeficientes(*columnas);
+    PonerReparto(marco, *marco.contenido,
+                 {.k = kCOEFICIENTERENTABILIDAD,
+                  .sesion = sesion,
+                  .entorno = entorno,
+                  .Volcar = [this](Condiciones& c) { logica.Volcar(c); },
+                  .Apaisado = true,
+                  .AlPulsar =
+                      [this](size_t, int32_t cr) {
+                          logica.ElegirCR(static_cast<size_t>(cr), !logica.lstCR[static_cast<size_t>(cr)]), Pintar();
+                      }},
+                 180);
     TerminarMarco(marco, *this, logica.marco, [this] {
         if (logica.PuedeCerrar()) QDialog::reject();
     });

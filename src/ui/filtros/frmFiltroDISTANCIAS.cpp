@@ -1,5 +1,6 @@
 #include "frmFiltroDISTANCIAS.h"
 
+#include "PanelReparto.h"
 #include "TextoQt.h"
 
 frmFiltroDISTANCIAS::frmFiltroDISTANCIAS(Sesion& sesion, Entorno& entorno, QWidget* padre)
@@ -24,6 +25,10 @@ frmFiltroDISTANCIAS::frmFiltroDISTANCIAS(Sesion& sesion, Entorno& entorno, QWidg
                                 .que = etiqueta},
                                EfectosDeIntervalo(logica, i, &L::CambiarMin, &L::CambiarMax, [this] { Pintar(); }));
     }
+    PonerReparto(marco, *marco.centro,
+                 {.k = kDISTANCIAS, .sesion = sesion, .entorno = entorno, .Volcar = [this](Condiciones& c) {
+                      logica.Volcar(c);
+                  }});
     TerminarMarco(marco, *this, logica.marco);
     logica.Abrir();
     Pintar();

@@ -2,6 +2,7 @@
 
 #include "CeldaVerde.h"
 #include "GestorCeldas.h"
+#include "PanelReparto.h"
 #include "TextoQt.h"
 
 frmFiltroGRUPOS::frmFiltroGRUPOS(Sesion& sesion, Entorno& entorno, QWidget* padre)
@@ -11,6 +12,7 @@ frmFiltroGRUPOS::frmFiltroGRUPOS(Sesion& sesion, Entorno& entorno, QWidget* padr
                              "de cumplirse todos los grupos.",
                              logica.marco);
     pagina.Crear(*this, *marco.contenido, [this](size_t i, QBoxLayout& caja) { CrearPosiciones(i, caja); });
+    PonerReparto(marco, *marco.centro, {.k = kGRUPOS, .sesion = sesion, .entorno = entorno});
     TerminarMarco(marco, *this, logica.marco);
     logica.Abrir();
     Pintar();

@@ -1,5 +1,6 @@
 #include "frmFiltroGRUPOSENTRELIMITES.h"
 
+#include "PanelReparto.h"
 #include "TextoQt.h"
 
 frmFiltroGRUPOSENTRELIMITES::frmFiltroGRUPOSENTRELIMITES(Sesion& sesion, Entorno& entorno, QWidget* padre)
@@ -10,6 +11,10 @@ frmFiltroGRUPOSENTRELIMITES::frmFiltroGRUPOSENTRELIMITES(Sesion& sesion, Entorno
                              logica.marco);
     pagina.Crear(*this, *marco.contenido, [](size_t, QBoxLayout&) {});
     CrearLimites();
+    PonerReparto(marco, *marco.centro,
+                 {.k = kGRUPOSENTRELIMITES, .sesion = sesion, .entorno = entorno, .Volcar = [this](Condiciones& c) {
+                      logica.Volcar(c);
+                  }});
     TerminarMarco(marco, *this, logica.marco);
     logica.Abrir();
     Pintar();

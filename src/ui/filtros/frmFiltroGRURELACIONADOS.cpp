@@ -2,6 +2,7 @@
 
 #include "FilaAciertos.h"
 #include "FiltroTeclas.h"
+#include "PanelReparto.h"
 #include "TextoQt.h"
 #include "frmAciertos.h"
 
@@ -13,7 +14,16 @@ frmFiltroGRURELACIONADOS::frmFiltroGRURELACIONADOS(Sesion& sesion, Entorno& ento
                              logica.marco);
     CrearBarra();
     CrearSubgrupos();
-    CrearCondiciones();
+    auto* abajo = new QHBoxLayout;
+    abajo->setSpacing(2 * Paso);
+    marco.contenido->addLayout(abajo);
+    CrearCondiciones(*abajo);
+    PonerReparto(marco, *abajo,
+                 {.k = kGRUPOSRELACIONADOS,
+                  .sesion = sesion,
+                  .entorno = entorno,
+                  .Volcar = [this](Condiciones& c) { logica.Volcar(c); }},
+                 140);
     TerminarMarco(marco, *this, logica.marco, [this] {
         if (logica.PuedeCerrar()) QDialog::reject();
     });
@@ -43,16 +53,16 @@ void frmFiltroGRURELACIONADOS::CrearSubgrupos() {
                                          .alCambiar = [this] { Pintar(); }});
 }
 
-// Three beside each other, as they belong to no subgroup of their column.
-void frmFiltroGRURELACIONADOS::CrearCondiciones() {
-    QGridLayout* caja = CrearCaja(*marco.contenido, "ACIERTOS EN CUALQUIERA DE LOS SUBGRUPOS");
+// Not one under each subgroup, as they belong to none.
+void frmFiltroGRURELACIONADOS::CrearCondiciones(QBoxLayout& donde) {
+    QGridLayout* caja = CrearCaja(donde, "ACIERTOS EN CUALQUIERA DE LOS SUBGRUPOS");
     caja->parentWidget()->setObjectName(Q("lblTitAciertos"));
     caja->setHorizontalSpacing(3 * Paso);
     for (size_t i = 0; i < txtAciertos.size(); ++i) {
         const int indice = static_cast<int>(i);
         auto* fila = new QGridLayout;
         fila->setHorizontalSpacing(Paso);
-        caja->addLayout(fila, indice / 3, indice % 3);
+        caja->addLayout(fila, indice / 2, indice % 2);
         txtAciertos[i] = CrearFilaAciertos(*fila, 0, Q("Condición ") + QString::number(indice + 1),
                                            NombreIndexado("txtAciertos", indice),
                                            NombreIndexado("cmdModificar", indice), [this, i] { Modificar(i); });

@@ -20,7 +20,7 @@ class frmFiltroGRURELACIONADOS final : public QDialog {
     void Pintar();
     void CrearBarra();
     void CrearSubgrupos();
-    void CrearCondiciones();
+    void CrearCondiciones(QBoxLayout& donde);
     void Modificar(size_t i);
 
     LogicaFiltroGRURELACIONADOS logica;

@@ -1,5 +1,7 @@
 #include "frmFiltroPOSICIONES.h"
 
+#include "PanelReparto.h"
+
 frmFiltroPOSICIONES::frmFiltroPOSICIONES(Sesion& sesion, Entorno& entorno, QWidget* padre)
     : QDialog(padre), logica{sesion, entorno} {
     marco =
@@ -19,7 +21,15 @@ frmFiltroPOSICIONES::frmFiltroPOSICIONES(Sesion& sesion, Entorno& entorno, QWidg
                                      .titulo = [this, i] { return logica.lblTitBola(i); },
                                      .marcas = [this, i] { return logica.lblNumero(i); },
                                      .alCambiar = [this] { Pintar(); }});
+    PonerReparto(marco, *marco.contenido,
+                 {.k = kPOSICIONES,
+                  .sesion = sesion,
+                  .entorno = entorno,
+                  .Apaisado = true,
+                  .AlPulsar = [this](size_t bola, int32_t numero) { logica.lblNumero(bola).Pulsar(numero), Pintar(); }},
+                 160);
     TerminarMarco(marco, *this, logica.marco);
+    Pintar();
 }
 
 void frmFiltroPOSICIONES::Pintar() {

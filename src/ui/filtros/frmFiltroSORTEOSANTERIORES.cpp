@@ -2,6 +2,7 @@
 
 #include "FilaAciertos.h"
 #include "FiltroTeclas.h"
+#include "PanelReparto.h"
 #include "Pintores.h"
 #include "TablaTiempos.h"
 #include "TextoQt.h"
@@ -55,6 +56,10 @@ frmFiltroSORTEOSANTERIORES::frmFiltroSORTEOSANTERIORES(Sesion& sesion, Entorno& 
     CrearOrdenes();
     CrearTramo();
     CrearCuentas();
+    PonerReparto(marco, *marco.centro,
+                 {.k = kSORTEOSANTERIORES, .sesion = sesion, .entorno = entorno, .Volcar = [this](Condiciones& c) {
+                      logica.Volcar(c);
+                  }});
     TerminarMarco(marco, *this, logica.marco, [this] {
         if (logica.PuedeCerrar()) QDialog::reject();
         Pintar();

@@ -1,5 +1,6 @@
 #include "frmFiltroSUMAS.h"
 
+#include "PanelReparto.h"
 #include "TextoQt.h"
 
 frmFiltroSUMAS::frmFiltroSUMAS(Sesion& sesion, Entorno& entorno, QWidget* padre)
@@ -22,6 +23,9 @@ frmFiltroSUMAS::frmFiltroSUMAS(Sesion& sesion, Entorno& entorno, QWidget* padre)
              .or_ = i + 1 < intervalos.size()},
             EfectosDeIntervalo(logica, i, &L::CambiarMinima, &L::CambiarMaxima, [this] { Pintar(); }));
     }
+    PonerReparto(
+        marco, *marco.centro,
+        {.k = kSUMAS, .sesion = sesion, .entorno = entorno, .Volcar = [this](Condiciones& c) { logica.Volcar(c); }});
     TerminarMarco(marco, *this, logica.marco);
     logica.Abrir();
     Pintar();

@@ -1,5 +1,6 @@
 #include "frmFiltroSUMASPORTRIOS.h"
 
+#include "PanelReparto.h"
 #include "TextoQt.h"
 
 frmFiltroSUMASPORTRIOS::frmFiltroSUMASPORTRIOS(Sesion& sesion, Entorno& entorno, QWidget* padre)
@@ -15,6 +16,10 @@ frmFiltroSUMASPORTRIOS::frmFiltroSUMASPORTRIOS(Sesion& sesion, Entorno& entorno,
     marco.contenido->addLayout(trios);
     CrearTrio(*trios, "TRES PRIMEROS NUMEROS", Q("T1"), intervalosT1, &L::CambiarMinimaT1, &L::CambiarMaximaT1);
     CrearTrio(*trios, "TRES ULTIMOS NUMEROS", Q("T2"), intervalosT2, &L::CambiarMinimaT2, &L::CambiarMaximaT2);
+    PonerReparto(marco, *marco.centro,
+                 {.k = kSUMASPORTRIOS, .sesion = sesion, .entorno = entorno, .Volcar = [this](Condiciones& c) {
+                      logica.Volcar(c);
+                  }});
     TerminarMarco(marco, *this, logica.marco);
     logica.Abrir();
     Pintar();

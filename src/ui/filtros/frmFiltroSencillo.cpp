@@ -2,6 +2,7 @@
 
 #include "DibujoBoleto.h"
 #include "FilaAciertos.h"
+#include "PanelReparto.h"
 #include "TextoQt.h"
 #include "frmAciertos.h"
 
@@ -12,7 +13,7 @@ constexpr int AnchoDefinicion = 340;
 
 } // namespace
 
-frmFiltroSencillo::frmFiltroSencillo(Sesion& sesion, const FiltroSencillo& filtro, QWidget* padre)
+frmFiltroSencillo::frmFiltroSencillo(Sesion& sesion, Entorno& entorno, const FiltroSencillo& filtro, QWidget* padre)
     : QDialog(padre), logica{sesion, filtro} {
     marco = CrearMarcoFiltro(*this, filtro.Ventana, filtro.Frase, logica.marco);
     auto* columnas = new QHBoxLayout;
@@ -28,6 +29,12 @@ frmFiltroSencillo::frmFiltroSencillo(Sesion& sesion, const FiltroSencillo& filtr
     if (filtro.Dibujo != nullptr) CrearDibujo(*derecha);
     izquierda->addStretch();
     derecha->addStretch();
+    PonerReparto(marco, *marco.centro,
+                 {.k = filtro.Fila,
+                  .sesion = sesion,
+                  .entorno = entorno,
+                  .Volcar = [this](Condiciones& c) { logica.Volcar(c); },
+                  .AlPulsar = [this](size_t a, int32_t v) { logica.PulsarBarra(a, v), Pintar(); }});
     TerminarMarco(marco, *this, logica.marco);
     logica.Abrir();
     Pintar();

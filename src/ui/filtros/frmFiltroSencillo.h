@@ -13,7 +13,7 @@
 
 class frmFiltroSencillo final : public QDialog {
   public:
-    frmFiltroSencillo(Sesion& sesion, const FiltroSencillo& filtro, QWidget* padre);
+    frmFiltroSencillo(Sesion& sesion, Entorno& entorno, const FiltroSencillo& filtro, QWidget* padre);
     void reject() override;
 
   private:

@@ -2,6 +2,7 @@
 
 #include "FilaAciertos.h"
 #include "FiltroTeclas.h"
+#include "PanelReparto.h"
 #include "TextoQt.h"
 #include "frmAciertos.h"
 
@@ -23,6 +24,12 @@ frmFiltroTERMINACIONES::frmFiltroTERMINACIONES(Sesion& sesion, Entorno& entorno,
     CrearSuma(*derecha);
     izquierda->addStretch();
     derecha->addStretch();
+    PonerReparto(marco, *marco.centro,
+                 {.k = kTERMINACIONES,
+                  .sesion = sesion,
+                  .entorno = entorno,
+                  .Volcar = [this](Condiciones& c) { logica.Volcar(c); },
+                  .AlPulsar = [this](size_t a, int32_t v) { logica.PulsarBarra(a, v), Pintar(); }});
     TerminarMarco(marco, *this, logica.marco);
     logica.Abrir();
     Pintar();

@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 #include <QStringListModel>
 
+#include "PanelReparto.h"
 #include "RejillaValores.h"
 #include "TextoQt.h"
 
@@ -43,6 +44,10 @@ frmFiltroVALORACIONES::frmFiltroVALORACIONES(Sesion& sesion, Entorno& entorno, Q
     CrearIntervalos(*derecha);
     CrearOrdenes(*derecha);
     derecha->addStretch();
+    PonerReparto(marco, *marco.centro,
+                 {.k = kVALORACIONES, .sesion = sesion, .entorno = entorno, .Volcar = [this](Condiciones& c) {
+                      logica.Volcar(c);
+                  }});
     TerminarMarco(marco, *this, logica.marco, [this] {
         if (logica.PuedeCerrar()) QDialog::reject();
     });

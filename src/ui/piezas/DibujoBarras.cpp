@@ -11,6 +11,7 @@ namespace {
 
 constexpr double Margen = 8, Hueco = 6; // px around the chart, and between texts
 constexpr double ParteBarra = 0.74;     // of its column
+constexpr double AltoConValores = 10;   // lines of text
 
 // The smallest of 1, 2, 5, 10, 20, ... of which at most `cuantos` reach `mayor`.
 int64_t PasoRedondo(int64_t mayor, int64_t cuantos) {
@@ -45,12 +46,17 @@ DibujoBarras::DibujoBarras(const Barras& datos, const QRectF& marco, const QFont
     : datos_(datos), marco_(marco), letra_(letra), medidas_(letra), miles_(miles) {
     const double alto = medidas_.height();
     // Title, values over the bars, bars, labels.
-    zona_ = marco.adjusted(Margen, Margen + 2 * alto + 2 * Hueco, -Margen, -Margen - alto - Hueco / 2);
+    const double cabecera = Baja() ? alto + Hueco : 2 * alto + 2 * Hueco;
+    zona_ = marco.adjusted(Margen, Margen + cabecera, -Margen, -Margen - alto - Hueco / 2);
     int64_t mayor = 1;
     for (const auto& barra : datos.barras) mayor = std::max(mayor, barra.valor);
     paso_ = PasoRedondo(mayor, std::clamp(static_cast<int64_t>(zona_.height() / (3 * alto)), int64_t{1}, int64_t{8}));
     tope_ = (mayor + paso_ - 1) / paso_ * paso_;
     zona_.setLeft(zona_.left() + medidas_.horizontalAdvance(Numero(tope_)) + Hueco);
+}
+
+bool DibujoBarras::Baja() const {
+    return marco_.height() < AltoConValores * medidas_.height();
 }
 
 QString DibujoBarras::Numero(int64_t valor) const {
@@ -59,6 +65,7 @@ QString DibujoBarras::Numero(int64_t valor) const {
 
 QString DibujoBarras::Lectura(size_t i) const {
     const Barra& barra = datos_.barras[i];
+    if (!barra.lectura.isEmpty()) return barra.lectura;
     return barra.etiqueta + Q(": ") + Numero(barra.valor) + Q(" ") + (barra.valor == 1 ? datos_.una : datos_.varias);
 }
 
@@ -156,10 +163,17 @@ void DibujoBarras::PintarBarras(QPainter& pintor, const ColoresBarras& colores, 
         const QColor relleno = datos_.barras[i].fuerte ? colores.fuerte : colores.tenue;
         const QRectF barra = Rectangulo(i);
         pintor.fillRect(barra, elegida ? Mezclar(relleno, colores.texto, 0.7) : relleno);
+        if (datos_.barras[i].parte > 0) PintarParte(pintor, i, colores.fuerte);
         if (datos_.barras[i].fuerte || barra.width() < 4 || barra.height() < 1) continue;
         pintor.setPen(colores.fuerte);
         pintor.drawRect(barra.adjusted(0.5, 0.5, -0.5, -0.5));
     }
+}
+
+void DibujoBarras::PintarParte(QPainter& pintor, size_t i, const QColor& color) const {
+    QRectF parte = Rectangulo(i);
+    parte.setTop(parte.bottom() - Altura(std::min(datos_.barras[i].parte, datos_.barras[i].valor)));
+    pintor.fillRect(parte, color);
 }
 
 // Labels, and the values where each bar has room for its own.
@@ -168,6 +182,7 @@ void DibujoBarras::PintarTextos(QPainter& pintor, const ColoresBarras& colores, 
     const std::vector<QRectF> etiquetas = Etiquetas();
     for (size_t i = 0; i < etiquetas.size(); ++i)
         if (!etiquetas[i].isEmpty()) pintor.drawText(etiquetas[i], Qt::AlignCenter, datos_.barras[i].etiqueta);
+    if (Baja()) return;
     double mayor = 0;
     for (const auto& barra : datos_.barras) mayor = std::max(mayor, medidas_.horizontalAdvance(Numero(barra.valor)));
     const bool todos = mayor + Hueco <= Columna(0).width();

@@ -15,6 +15,8 @@ struct Barra {
     QString etiqueta;
     int64_t valor = 0;  ///< 0 to 10^15
     bool fuerte = true; ///< a faint one stands back, as what is not chosen
+    int64_t parte = 0;  ///< of a faint one, this much of its value is drawn strong
+    QString lectura{};  ///< told of it instead of its value, if not empty
 
     bool operator==(const Barra&) const = default;
 };
@@ -36,7 +38,8 @@ ColoresBarras ColoresDePantalla(const QPalette& paleta);
 /// Dark on white, whatever the desktop's colours are.
 ColoresBarras ColoresDePapel();
 
-/// A chart in a rectangle. Bars begin at zero; the axis ends at a round number.
+/// A chart in a rectangle. Bars begin at zero; the axis ends at a round number. A low chart tells the value of
+/// the highlighted bar alone.
 class DibujoBarras {
   public:
     /// `datos` outlives the drawing. `miles` groups the values.
@@ -63,9 +66,11 @@ class DibujoBarras {
     double Altura(int64_t valor) const;
     QString Numero(int64_t valor) const;
     double AnchoMayor() const;
+    bool Baja() const;
     void PintarCabecera(QPainter& pintor, size_t destacada) const;
     void PintarEje(QPainter& pintor, const ColoresBarras& colores) const;
     void PintarBarras(QPainter& pintor, const ColoresBarras& colores, size_t destacada) const;
+    void PintarParte(QPainter& pintor, size_t i, const QColor& color) const;
     void PintarTextos(QPainter& pintor, const ColoresBarras& colores, size_t destacada) const;
 
     const Barras& datos_;

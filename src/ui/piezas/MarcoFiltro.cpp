@@ -3,12 +3,15 @@
 #include <QPainter>
 
 #include "FiltrosSencillos.h"
+#include "PanelReparto.h"
 #include "TextoQt.h"
 
 namespace {
 
 // The pill and the gap between it and the button's text.
 constexpr QSize TamanioPastilla(32, 18), TamanioInterruptor(38, 18);
+
+constexpr int AnchoReparto = 360;
 
 // A pill with its knob to the right when on. Green with a white knob, or an outline in the text's
 // colour: the state shows in place and shape, not in colour alone.
@@ -84,12 +87,21 @@ MarcoFiltro CrearMarcoFiltro(QDialog& dialogo, std::string_view nombre, std::str
     MarcoFiltro piezas;
     piezas.contenido = new QVBoxLayout;
     piezas.contenido->setSpacing(Paso);
-    caja->addLayout(piezas.contenido);
-    caja->addStretch();
+    piezas.centro = new QHBoxLayout;
+    piezas.centro->setSpacing(2 * Paso);
+    piezas.centro->addLayout(piezas.contenido);
+    caja->addLayout(piezas.centro, 1);
     return piezas;
 }
 
+void PonerReparto(MarcoFiltro& piezas, QBoxLayout& donde, PeticionReparto peticion, int alto) {
+    piezas.reparto = new PanelReparto(std::move(peticion));
+    piezas.reparto->setMinimumSize(AnchoReparto, alto);
+    donde.addWidget(piezas.reparto, 1);
+}
+
 void TerminarMarco(MarcoFiltro& piezas, QDialog& dialogo, LogicaMarco& marco, std::function<void()> alVolver) {
+    piezas.contenido->addStretch();
     auto* pie = new QHBoxLayout;
     pie->setContentsMargins(0, Paso, 0, 0);
     piezas.imgActivar = CrearBoton("imgActivar", "Condición desactivada", "Activar/Desactivar condición", [] {});
@@ -111,6 +123,7 @@ void TerminarMarco(MarcoFiltro& piezas, QDialog& dialogo, LogicaMarco& marco, st
 }
 
 void PintarMarco(const MarcoFiltro& piezas, const LogicaMarco& marco) {
+    if (piezas.reparto != nullptr) piezas.reparto->Actualizar();
     QPushButton& boton = *piezas.imgActivar;
     boton.setText(Q(marco.lblActivar()));
     boton.setIcon(IconoInterruptor(marco.Activo(), boton.palette(), boton.devicePixelRatioF()));

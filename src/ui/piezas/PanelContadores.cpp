@@ -65,7 +65,18 @@ PanelContadores CrearPanelContadores(QWidget* padre) {
     p.lblTipoCombinacion->setFont(Letra(p.panel->font(), 1.3, false));
     p.lblTipoCombinacion->setAlignment(Qt::AlignRight | Qt::AlignBottom);
     p.lblTipoCombinacion->setMinimumWidth(p.lblTipoCombinacion->fontMetrics().horizontalAdvance(Q("49 Números")) + 4);
-    fila->addWidget(p.lblTipoCombinacion);
+    p.lblAlVuelo = new QLabel(p.panel);
+    p.lblAlVuelo->setObjectName(Q("lblAlVuelo"));
+    p.lblAlVuelo->setToolTip(Q("Apuestas que dejarían pasar ahora las condiciones activas"));
+    p.lblAlVuelo->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    p.lblAlVuelo->setAlignment(Qt::AlignRight | Qt::AlignBottom);
+    p.lblAlVuelo->setMinimumWidth(
+        p.lblAlVuelo->fontMetrics().horizontalAdvance(Q("Al vuelo: la base no llega a 6 números")) + 4);
+    auto* esquina = new QVBoxLayout;
+    esquina->setSpacing(0);
+    esquina->addWidget(p.lblAlVuelo, 1);
+    esquina->addWidget(p.lblTipoCombinacion);
+    fila->addLayout(esquina);
     p.actividad = new QProgressBar(p.panel);
     p.actividad->setObjectName(Q("actividad"));
     p.actividad->setAccessibleName(Q("Cálculo en marcha"));
@@ -91,6 +102,11 @@ void PintarPanelContadores(const PanelContadores& p, const QString& iniciales, c
         contador->setFont(progreso && contador == p.lblApuestasCondicionadas ? Letra(p.panel->font(), 1.3, false)
                                                                              : cifra);
     p.actividad->setVisible(calculando);
+}
+
+void PintarAlVuelo(const PanelContadores& p, const QString& texto, bool alDia) {
+    p.lblAlVuelo->setText(texto);
+    p.lblAlVuelo->setForegroundRole(alDia ? QPalette::WindowText : QPalette::PlaceholderText);
 }
 
 PanelEspera CrearPanelEspera(QWidget* padre, std::string_view texto) {

@@ -11,11 +11,15 @@
 struct PanelContadores {
     QWidget* panel = nullptr;
     QLabel *lblApuestasIniciales = nullptr, *lblApuestasCondicionadas = nullptr, *lblApuestasReducidas = nullptr;
+    QLabel* lblAlVuelo = nullptr; ///< what the conditions would let through now; not a counter
     QLabel* lblTipoCombinacion = nullptr;
     QProgressBar* actividad = nullptr; ///< moves while a calculation runs
 };
 
 PanelContadores CrearPanelContadores(QWidget* padre);
+
+/// Shows the line of the count on the fly, fainter while it is behind the settings.
+void PintarAlVuelo(const PanelContadores& panel, const QString& texto, bool alDia);
 
 /// Shows the texts of the counters. `progreso`: the conditioned one tells what runs, in smaller letters.
 void PintarPanelContadores(const PanelContadores& panel, const QString& iniciales, const QString& condicionadas,

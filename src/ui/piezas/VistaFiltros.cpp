@@ -18,6 +18,8 @@ namespace {
 
 enum Columna { Act, Condicion, NAct, Eliminan };
 
+constexpr std::string_view ComoSeUsa = "Doble clic o Intro: abrir. Botón derecho o espacio: activar o desactivar";
+constexpr std::string_view NoExiste = "Esta condición depende del boleto de 49 números: no existe en EURODREAMS";
 constexpr int AltoFilaMinimo = 22, AltoFilaMaximo = 30;
 
 // The twenty rows share the height there is, so that none is cut off and none is lost in space.
@@ -128,8 +130,7 @@ void PintarColores(QTreeWidget* lista, QTreeWidgetItem& item, const FilaFiltro& 
         item.setBackground(c, fondo);
         item.setForeground(c, letra);
         item.setFont(c, fuente);
-        item.setToolTip(c, falta ? Q("Esta condición depende del boleto de 49 números: no existe en EURODREAMS")
-                                 : Q("Doble clic o Intro: abrir. Botón derecho o espacio: activar o desactivar"));
+        item.setToolTip(c, falta ? Q(NoExiste) : Q(ComoSeUsa));
     }
     item.setIcon(Act, Punto(paleta, fila.Activo));
 }
@@ -192,6 +193,16 @@ void PintarVistaFiltros(QTreeWidget* lista, const Sesion& sesion, char separador
         PintarColores(lista, item, fila);
     }
     lista->setEnabled(habilitada);
+}
+
+void PonerCostes(QTreeWidget* lista, const std::array<QString, NFiltros>& costes) {
+    for (int k = 0; k < NFiltros; ++k) {
+        QTreeWidgetItem& item = *lista->topLevelItem(k);
+        const QString& coste = costes[static_cast<size_t>(k)];
+        const QString consejo = (coste.isEmpty() ? QString() : coste + Q("\n")) + Q(ComoSeUsa);
+        if (item.toolTip(Condicion) == Q(NoExiste)) continue;
+        for (int c = Act; c <= Eliminan; ++c) item.setToolTip(c, consejo);
+    }
 }
 
 void ColorearVistaFiltros(QTreeWidget* lista, const QPalette& paleta) {

@@ -3,6 +3,7 @@
 
 #include <QTreeWidget>
 
+#include <array>
 #include <functional>
 
 #include "Sesion.h"
@@ -12,6 +13,9 @@ QTreeWidget* CrearVistaFiltros(QWidget* padre, std::function<void(int)> alternar
 
 /// Shows the rows. Those that the game does not have stand grey, with a tip that says why.
 void PintarVistaFiltros(QTreeWidget* lista, const Sesion& sesion, char separadorMiles, bool habilitada);
+
+/// Adds to the tip of each row what it costs; an empty text adds nothing.
+void PonerCostes(QTreeWidget* lista, const std::array<QString, NFiltros>& costes);
 
 /// Takes the colours of another palette.
 void ColorearVistaFiltros(QTreeWidget* lista, const QPalette& paleta);

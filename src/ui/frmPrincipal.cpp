@@ -121,6 +121,7 @@ QWidget* frmPrincipal::CrearBoleto() {
                                       [this](int r) { logica.PulsarFila(r), Pintar(); },
                                       [this](int c) { logica.PulsarColumna(c), Pintar(); }});
     CrearPortapapeles(picNumeros.papel);
+    CrearHistoria(picNumeros.papel);
     auto* cabecera = new QHBoxLayout;
     cabecera->addWidget(cmdCuadroApuDirecto, 1);
     cabecera->addWidget(lblMarcarDesmarcarTODOS);
@@ -177,6 +178,26 @@ void frmPrincipal::CrearPortapapeles(QWidget* boleto) {
     });
 }
 
+void frmPrincipal::CrearHistoria(QWidget* boleto) {
+    accionDeshacer = new QAction(Q("Deshacer"), this);
+    accionRehacer = new QAction(Q("Rehacer"), this);
+    accionDeshacer->setObjectName(Q("accionDeshacer"));
+    accionRehacer->setObjectName(Q("accionRehacer"));
+    accionDeshacer->setShortcut(QKeySequence::Undo);
+    accionRehacer->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
+    addActions({accionDeshacer, accionRehacer});
+    boleto->addActions({accionDeshacer, accionRehacer});
+    connect(accionDeshacer, &QAction::triggered, this, [this] { logica.Deshacer(), Pintar(); });
+    connect(accionRehacer, &QAction::triggered, this, [this] { logica.Rehacer(), Pintar(); });
+}
+
+// A visit to a dialog is one step, whatever is painted behind it.
+void frmPrincipal::PintarHistoria(bool bloqueada) {
+    if (!bloqueada && QApplication::activeModalWidget() == nullptr) logica.historia.Recordar(logica.sesion);
+    accionDeshacer->setEnabled(!bloqueada && logica.historia.PuedeDeshacer());
+    accionRehacer->setEnabled(!bloqueada && logica.historia.PuedeRehacer());
+}
+
 void frmPrincipal::Pintar() {
     const EstadoTrabajo& trabajo = logica.sesion.trabajo;
     const bool bloqueada = logica.Bloqueada();
@@ -193,6 +214,7 @@ void frmPrincipal::Pintar() {
                           Q(logica.lblApuestasReducidas()), Q(logica.lblTipoCombinacion()),
                           !trabajo.Contador.Progreso.empty(), trabajo.EstadoCalculando);
     PintarPanelEspera(espera, trabajo.picVentanaEspera);
+    PintarHistoria(bloqueada);
     if (!bloqueada) alVuelo.Mirar();
     PintarAlVuelo();
     if (!bloqueada && focoAnterior != nullptr) {

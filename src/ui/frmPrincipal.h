@@ -32,9 +32,11 @@ class frmPrincipal final : public QMainWindow {
     QWidget* CrearBoleto();
     QWidget* CrearDigitos();
     void CrearPortapapeles(QWidget* boleto);
+    void CrearHistoria(QWidget* boleto);
     void PintarJuego();
     void PintarBoleto();
     void PintarAlVuelo();
+    void PintarHistoria(bool bloqueada);
     void Hacer(Orden orden);
     void AbrirFila(int k);
     void CambiarTipoCombinacion(int indice);
@@ -53,6 +55,7 @@ class frmPrincipal final : public QMainWindow {
     QTreeWidget* lstFiltros = nullptr;
     PanelContadores contadores;
     ContadorAlVuelo alVuelo;
+    QAction *accionDeshacer = nullptr, *accionRehacer = nullptr;
     PanelEspera espera;
     QPointer<QWidget> focoAnterior; ///< what had the focus when the window was locked
     Pintor pintor;

@@ -370,3 +370,28 @@ TEST(frmPrincipal, TodoTieneNombreParaElLectorDePantalla) {
         EXPECT_FALSE(accesible->text(QAccessible::Name).isEmpty()) << Utf8(control->objectName());
     }
 }
+
+// One step for a visit to a dialog, with whatever is done in it.
+TEST(frmPrincipal, DeshacerYRehacer) {
+    Principal p;
+    p.PulsarNumeros({1, 2, 3, 4, 5, 6, 7});
+    EnModal([](QDialog& dialogo) {
+        QTest::keyClicks(Hijo<QLineEdit>(dialogo, "txtSumaMaxima_0"), QStringLiteral("40"));
+        QTest::keyClicks(Hijo<QLineEdit>(dialogo, "txtSumaMinima_0"), QStringLiteral("30"));
+        dialogo.close();
+    });
+    p.Lista().setCurrentItem(p.Lista().topLevelItem(Sumas));
+    QTest::keyClick(&p.Lista(), Qt::Key_Return);
+    EXPECT_EQ(p.sesion.condiciones.SUMAS.intervalos[0], (Intervalo{30, 40}));
+    p.Tecla(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_FALSE(p.sesion.condiciones.SUMAS.intervalos[0].EnUso());
+    EXPECT_EQ(p.Fila(Sumas, 0), "No");
+    EXPECT_EQ(p.Contadores()[0], "7");
+    p.Tecla(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(p.Contadores()[0], "1");
+    EXPECT_FALSE(Hijo<QAbstractButton>(p.ventana, "lblNumero_6")->isChecked());
+    p.Tecla(Qt::Key_Y, Qt::ControlModifier);
+    p.Tecla(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(p.Fila(Sumas, 0), "Sí");
+    EXPECT_EQ(p.sesion.condiciones.SUMAS.intervalos[0], (Intervalo{30, 40}));
+}

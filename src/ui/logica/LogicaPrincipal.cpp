@@ -30,7 +30,9 @@ void LogicaPrincipal::Hacer(Orden orden) {
     case Orden::Nuevo:
         return Nuevo();
     case Orden::Abrir:
-        if (PuedeDescartar()) AbrirBaseXML(sesion, entorno);
+        if (!PuedeDescartar()) return;
+        AbrirBaseXML(sesion, entorno);
+        historia.Olvidar();
         return;
     case Orden::Guardar:
         GuardarBaseXML(sesion, entorno);
@@ -79,6 +81,15 @@ void LogicaPrincipal::Nuevo() {
     if (!PuedeDescartar()) return;
     sesion.trabajo.cboTipoCombinacion = PronosticoManual;
     ReiniciarSesion(sesion, entorno);
+    historia.Olvidar();
+}
+
+void LogicaPrincipal::Deshacer() {
+    if (!Bloqueada()) historia.Deshacer(sesion);
+}
+
+void LogicaPrincipal::Rehacer() {
+    if (!Bloqueada()) historia.Rehacer(sesion);
 }
 
 void LogicaPrincipal::CalculoPrueba() {
@@ -96,6 +107,7 @@ void LogicaPrincipal::Soltar(const std::string& ruta) {
         AbrirFicheroBase(ruta, sesion, entorno);
     else
         ImportarFichero(ruta, sesion, entorno);
+    historia.Olvidar();
 }
 
 void LogicaPrincipal::CambiarJuego(int juego) {

@@ -2,12 +2,14 @@
 #pragma once
 
 #include "Entorno.h"
+#include "HistoriaCambios.h"
 #include "Ordenes.h"
 #include "Sesion.h"
 
 struct LogicaPrincipal {
     Sesion& sesion;
     Entorno& entorno;
+    HistoriaCambios historia{};
 
     /// Runs a command that works on the state. Those that only open a window do nothing here.
     void Hacer(Orden orden);
@@ -39,6 +41,10 @@ struct LogicaPrincipal {
     void Pegar(const std::string& texto);
     /// The marked numbers of the game: "3, 7, 12".
     std::string Copiar() const;
+
+    /// A step of what the user has set, back or forward; without effect while a job runs.
+    void Deshacer();
+    void Rehacer();
 
     /// The right button on a row of the list: the saved flag stays.
     void AlternarFila(int k);

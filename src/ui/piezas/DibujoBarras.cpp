@@ -46,7 +46,7 @@ DibujoBarras::DibujoBarras(const Barras& datos, const QRectF& marco, const QFont
     : datos_(datos), marco_(marco), letra_(letra), medidas_(letra), miles_(miles) {
     const double alto = medidas_.height();
     // Title, values over the bars, bars, labels.
-    const double cabecera = Baja() ? alto + Hueco : 2 * alto + 2 * Hueco;
+    const double cabecera = Baja() ? 1.5 * alto + Hueco : 2 * alto + 2 * Hueco;
     zona_ = marco.adjusted(Margen, Margen + cabecera, -Margen, -Margen - alto - Hueco / 2);
     int64_t mayor = 1;
     for (const auto& barra : datos.barras) mayor = std::max(mayor, barra.valor);

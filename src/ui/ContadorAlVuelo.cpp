@@ -36,19 +36,17 @@ void ContadorAlVuelo::Mirar() {
     mirada_ = std::move(mirada);
     trabajo_.Abandonar();
     sinMemoria_ = false;
-    if (FaltaBase(sesion_.trabajo).empty()) {
-        reloj_.start();
-    } else {
-        reloj_.stop();
-        cuenta_.reset();
-    }
+    alDia_ = !FaltaBase(sesion_.trabajo).empty();
+    if (!alDia_) return reloj_.start();
+    reloj_.stop();
+    cuenta_.reset();
 }
 
 // The line first; what the other rows would cost comes after it.
 void ContadorAlVuelo::Contar() {
     const auto sinMemoria = [this] {
         cuenta_.reset();
-        sinMemoria_ = true;
+        sinMemoria_ = alDia_ = true;
         alContar_();
     };
     try {
@@ -58,6 +56,7 @@ void ContadorAlVuelo::Contar() {
                 const auto mostrar = [&](const CuentaAlVuelo& cuenta) {
                     publicar([this, copia = std::make_shared<const CuentaAlVuelo>(cuenta)] {
                         cuenta_ = copia;
+                        alDia_ = true;
                         alContar_();
                     });
                 };

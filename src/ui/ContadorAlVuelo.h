@@ -23,7 +23,8 @@ class ContadorAlVuelo {
 
     /// The last count; null while there has been none of a base with bets.
     const CuentaAlVuelo* Cuenta() const { return cuenta_.get(); }
-    bool AlDia() const { return !reloj_.isActive() && !trabajo_.EnMarcha(); }
+    /// Whether it is that of the state as it is now.
+    bool AlDia() const { return alDia_; }
     bool SinMemoria() const { return sinMemoria_; }
 
   private:
@@ -35,7 +36,7 @@ class ContadorAlVuelo {
     std::function<void()> alContar_;
     std::unique_ptr<Mirada> mirada_; ///< what the count was made of, or is going to be
     std::shared_ptr<const CuentaAlVuelo> cuenta_;
-    bool sinMemoria_ = false;
+    bool sinMemoria_ = false, alDia_ = true;
     QTimer reloj_;
     TrabajoAparte trabajo_;
 };

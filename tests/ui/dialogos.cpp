@@ -1,11 +1,14 @@
 #include "dialogos.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QListWidget>
+#include <QtTest/QTest>
 
 #include "CalcularSistema.h"
 #include "DialogosFiltro.h"
 #include "HistoriaInventada.h"
+#include "PanelReparto.h"
 #include "TablaFiltros.h"
 #include "Ventanas.h"
 #include "frmAcercaDe.h"
@@ -199,4 +202,11 @@ const std::vector<DialogoProbado>& Dialogos() {
         {"frmAcercaDe", [](Guion&) { return std::make_unique<frmAcercaDe>(nullptr); }},
     };
     return dialogos;
+}
+
+void EsperarCuentas(const QWidget& ventana) {
+    for (const QWidget* panel : ventana.findChildren<QWidget*>(Q("panelReparto")))
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !static_cast<const PanelReparto*>(panel)->EnMarcha(); }, 20000));
+    for (const QLabel* linea : ventana.findChildren<QLabel*>(Q("lblAlVuelo")))
+        EXPECT_TRUE(QTest::qWaitFor([&] { return linea->text() != Q("Al vuelo: "); }, 20000));
 }

@@ -18,3 +18,6 @@ struct DialogoProbado {
 };
 
 const std::vector<DialogoProbado>& Dialogos();
+
+/// Until what the window counts aside is there to be seen; fails after 20 s.
+void EsperarCuentas(const QWidget& ventana);

@@ -9,7 +9,6 @@
 
 #include <set>
 
-#include "PanelReparto.h"
 #include "Sesiones.h"
 #include "Ventanas.h"
 #include "dialogos.h"
@@ -121,8 +120,7 @@ QPalette Oscura() {
 }
 
 void Retratar(QWidget& ventana, const QString& nombre, qreal escala) {
-    for (const QWidget* panel : ventana.findChildren<QWidget*>(Q("panelReparto")))
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !static_cast<const PanelReparto*>(panel)->EnMarcha(); }, 20000));
+    EsperarCuentas(ventana);
     QPixmap retrato(ventana.size() * escala);
     retrato.setDevicePixelRatio(escala);
     ventana.render(&retrato);

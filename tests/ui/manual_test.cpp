@@ -73,6 +73,7 @@ QImage ConPaleta(const QImage& imagen) {
 
 void Guardar(QWidget& ventana) {
     ventana.show();
+    EsperarCuentas(ventana);
     QApplication::processEvents();
     const QString ruta = Q(MANUAL) + Q("/imagenes/") + ventana.objectName() + Q(".png");
     const QImage imagen = ventana.grab().toImage().convertToFormat(QImage::Format_RGB32);

@@ -51,6 +51,20 @@ TEST_F(Informes, EliminadasCalculaYEscribeLoQueImprime) {
     EXPECT_EQ(Fichero("TOMBOLERA_RESUMEN.txt"), r.Salida);
 }
 
+// The counts on the fly need no calculation, and so no digits either.
+TEST_F(Informes, AlVueloCuentaLoQuePasaYLoQueCuestaCadaCondicion) {
+    guion.sesion.condiciones.PARESIMPARES.ParesActivos[3] = 1;
+    guion.sesion.condiciones.lstFiltros[kPARESIMPARES].Activo = true;
+    guion.MarcarDigitos({});
+    const Resultado r = Ejecutar({"al-vuelo", "base.xml"});
+    EXPECT_EQ(r.Salida, "Iniciales: 28\nAl vuelo: 1\nSola PARESIMPARES: 18\nSólo ella PARESIMPARES: 1\n"
+                        "Sola SUMAS: 26\nSólo ella SUMAS: 9\n");
+    guion.sesion.trabajo.lblNumero.fill(false);
+    const Resultado corta = Ejecutar({"al-vuelo", "base.xml"});
+    EXPECT_EQ(corta.Estado, 1);
+    EXPECT_EQ(corta.Errores, "AVISO: DEBE SELECCIONAR MINIMO 6 NUMEROS\n");
+}
+
 TEST_F(Informes, AnalisisEnApuestasYEnPorcentajes) {
     const Resultado cuentas = Ejecutar({"analisis", "base.xml"});
     EXPECT_NE(cuentas.Salida.find("\n9 2         19 --       29 --       39 --       49 --\n"), std::string::npos);

@@ -8,27 +8,14 @@
 // takes too long.
 #include <algorithm>
 #include <cstdlib>
-#include <ctime>
 
 #include <fmt/format.h>
 
 #include "Escenario.h"
 #include "Procesador.h"
+#include "Reloj.h"
 
 namespace {
-
-double Reloj() {
-    timespec t{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &t);
-    return static_cast<double>(t.tv_sec) + static_cast<double>(t.tv_nsec) * 1e-9;
-}
-
-template <class Hacer>
-double Segundos(Hacer hacer) {
-    const double antes = Reloj();
-    hacer();
-    return Reloj() - antes;
-}
 
 struct Minimos {
     double lectura = 1e9, fresca = 1e9;

@@ -1,6 +1,5 @@
 #include "Reparto.h"
 
-#include <bit>
 #include <cstring>
 
 #include "NucleosReparto.h"
@@ -15,13 +14,13 @@ class MuertasAparte {
     explicit MuertasAparte(EstadoTrabajo& trabajo) : trabajo_(trabajo), vivas_(trabajo.ApuestasEnTabla) {
         static_assert(ApuestaPasa == 0 && ApuestaMuerta == 1 << 1);
         Cambiar([this](uint64_t flags) {
-            vivas_ -= std::popcount(flags);
+            vivas_ -= static_cast<int32_t>(flags * UnoEnCada >> 56); // the sum of the eight
             return flags << 1;
         });
     }
     // Rejected bets come back to life.
     ~MuertasAparte() {
-        Cambiar([](uint64_t flags) { return flags >> 1 & 0x0101010101010101u; });
+        Cambiar([](uint64_t flags) { return flags >> 1 & UnoEnCada; });
     }
     MuertasAparte(const MuertasAparte&) = delete;
     MuertasAparte& operator=(const MuertasAparte&) = delete;
@@ -29,6 +28,8 @@ class MuertasAparte {
     int32_t Vivas() const { return vivas_; }
 
   private:
+    static constexpr uint64_t UnoEnCada = 0x0101010101010101u;
+
     // Eight flags at a time; those behind the last bet become 1, whatever they were.
     template <class Cambio>
     void Cambiar(Cambio cambio) {

@@ -5,6 +5,7 @@
 
 void DeclararCalcular(CLI::App& programa, Lote& lote);
 void DeclararAlVuelo(CLI::App& programa, Lote& lote);
+void DeclararReparto(CLI::App& programa, Lote& lote);
 void DeclararBase(CLI::App& programa, Lote& lote);
 void DeclararEstadisticas(CLI::App& programa, Lote& lote);
 void DeclararActualizar(CLI::App& programa, Lote& lote);

@@ -36,6 +36,7 @@ int main(int argc, char** argv) {
     DeclararPrograma(programa, lote.opciones);
     DeclararCalcular(programa, lote);
     DeclararAlVuelo(programa, lote);
+    DeclararReparto(programa, lote);
     DeclararBase(programa, lote);
     DeclararEstadisticas(programa, lote);
     DeclararActualizar(programa, lote);

@@ -23,10 +23,11 @@ TEST_P(Ayuda, EsLaGuardada) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Ordenes, Ayuda,
-                         testing::Values("programa", "calcular", "al-vuelo", "base", "ver", "resumen", "eliminadas", "analisis",
-                                         "garantias", "minigarantias", "escrutar", "multiescrutinio", "multifichero",
-                                         "premios", "estadisticas", "actualizar", "algebra", "rentabilidad",
-                                         "generar-numeros", "generar-porcentajes", "sistema-propio"),
+                         testing::Values("programa", "calcular", "al-vuelo", "reparto", "base", "ver", "resumen",
+                                         "eliminadas", "analisis", "garantias", "minigarantias", "escrutar",
+                                         "multiescrutinio", "multifichero", "premios", "estadisticas", "actualizar",
+                                         "algebra", "rentabilidad", "generar-numeros", "generar-porcentajes",
+                                         "sistema-propio"),
                          [](const auto& caso) {
                              std::string nombre = caso.param;
                              std::replace(nombre.begin(), nombre.end(), '-', '_');
@@ -59,6 +60,10 @@ TEST(Argumentos, LosMalosDicenQueFallaYComoSeUsa) {
         {{"calcular", "a.xml", "--segundos", "99999999999"},
          "--segundos: se espera un número entero desde 1, no 99999999999",
          "calcular"},
+        {{"reparto", "a.xml"}, "falta --filtro", "reparto"},
+        {{"reparto", "a.xml", "--filtro", "Sumas"},
+         "--filtro: se espera el nombre de una condición, como SUMAS, no Sumas",
+         "reparto"},
         {{"base", "a.xml"}, "falta --guardar", "base"},
         {{"garantias", "a.xml", "--tipo", "parcial"},
          "--tipo: se espera total o condicionado, no parcial",

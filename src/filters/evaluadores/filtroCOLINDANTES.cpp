@@ -27,8 +27,8 @@ int32_t FiltrarCOLINDANTES(Sesion& sesion, Entorno& entorno) {
 
 Apartados RepartirCOLINDANTES(Sesion& sesion, Entorno& entorno) {
     const TablasColindantes tablas = Preparar(sesion.trabajo, LaMismaCuenta);
-    return {Apartado("Colindantes",
-                     ContarRespuestas(sesion.trabajo, entorno, 7, [&](const Tramo& tramo, uint8_t* respuestas) {
-                         RespuestasColindantes(tramo, tablas, respuestas);
-                     }))};
+    return {
+        Apartado("Colindantes", ContarAciertos(sesion.trabajo, entorno, [&](const Tramo& tramo, uint8_t* respuestas) {
+                     RespuestasColindantes(tramo, tablas, respuestas);
+                 }))};
 }

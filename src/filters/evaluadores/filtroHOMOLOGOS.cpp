@@ -28,7 +28,7 @@ int32_t FiltrarHOMOLOGOS(Sesion& sesion, Entorno& entorno) {
 Apartados RepartirHOMOLOGOS(Sesion& sesion, Entorno& entorno) {
     TablasClases tablas = Preparar(sesion.trabajo);
     tablas.Pasa = PorCodigoDeFigura([](size_t f) { return TamanosFigura[f][0]; });
-    const Cuentas cuentas = ContarRespuestas(sesion.trabajo, entorno, 7, [&](const Tramo& tramo, uint8_t* respuestas) {
+    const Cuentas cuentas = ContarAciertos(sesion.trabajo, entorno, [&](const Tramo& tramo, uint8_t* respuestas) {
         RespuestasClases(tramo, tablas, respuestas);
     });
     return {Apartado("Mayor grupo", Cuentas(cuentas.begin() + 1, cuentas.end()), 1)};

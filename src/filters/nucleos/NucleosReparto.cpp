@@ -31,7 +31,7 @@ struct RecuentoAciertos {
 
     HWY_INLINE void Contar(V aciertos, V estado) {
         const V v = hn::Or(aciertos, hn::ShiftLeft<3>(estado));
-        for (size_t h = 1; h <= 3; ++h) ContarLosDe(h, v);
+        for (size_t h = 0; h <= 3; ++h) ContarLosDe(h, v);
         if (hn::AllFalse(d, hn::Gt(aciertos, hn::Set(d, 3)))) return; // four of one class are rare
         for (size_t h = 4; h <= 6; ++h) ContarLosDe(h, v);
     }
@@ -48,9 +48,9 @@ void Aciertos(const Tramo& tramo, const uint8_t* valores, bool altos, CuentaAcie
         const V v = hn::Load(d, valores + i);
         recuento.Contar(hn::And(altos ? hn::ShiftRight<4>(v) : v, hn::Set(d, 7)), hn::Load(d, tramo.eliminada + i));
     }
-    for (size_t h = 1; h <= 6; ++h) {
-        cuenta.Pasan[h] += static_cast<int64_t>(recuento.pasan[h]);
-        cuenta.Rechazadas[h] += static_cast<int64_t>(recuento.rechazadas[h]);
+    for (size_t h = 0; h < cuenta.size(); ++h) {
+        const auto pasan = static_cast<int32_t>(recuento.pasan[h]);
+        cuenta[h].Sumar({pasan + static_cast<int32_t>(recuento.rechazadas[h]), pasan});
     }
 }
 
@@ -60,43 +60,49 @@ class RecuentoPalabras {
         for (size_t t = 0; t < CuentaPalabras::Turnos; ++t) cuentas_[t] = cuenta.Cuentas(t);
     }
 
-    // In a table in order most values stay the same for a while: one or two of them are counted as such.
+    // In a table in order many rows hold a few different values for a while, which are counted one after the
+    // other. Where they are more, the next vectors are likely to have as many.
     HWY_INLINE void Contar(const uint8_t* baja, const uint8_t* alta, V estado) {
-        const size_t fin = hn::Lanes(d) - 1;
         const V bajas = hn::Load(d, baja), altas = hn::Load(d, alta);
-        const auto primeras = Iguales(bajas, altas, baja[0], alta[0]),
-                   ultimas = Iguales(bajas, altas, baja[fin], alta[fin]);
-        if (!hn::AllTrue(d, hn::Or(primeras, ultimas))) return ContarUnaAUna(bajas, altas, estado);
-        ContarIguales(baja[0], alta[0], primeras, estado);
-        ContarIguales(baja[fin], alta[fin], hn::AndNot(primeras, ultimas), estado);
+        if (variados_ > 0) {
+            --variados_;
+            return ContarUnaAUna(bajas, altas, estado);
+        }
+        Mascara quedan = hn::Ne(estado, hn::Set(d, ApuestaMuerta));
+        for (int v = 0; v < 4; ++v) {
+            const auto i = hn::FindFirstTrue(d, quedan);
+            if (i < 0) return;
+            const auto iguales = hn::And(hn::Eq(bajas, hn::Set(d, baja[i])), hn::Eq(altas, hn::Set(d, alta[i])));
+            ContarIguales(baja[i], alta[i], hn::And(quedan, iguales), estado);
+            quedan = hn::AndNot(iguales, quedan);
+        }
+        if (hn::AllFalse(d, quedan)) return;
+        variados_ = 15;
+        ContarUnaAUna(bajas, altas, hn::IfThenElse(quedan, estado, hn::Set(d, ApuestaMuerta)));
     }
 
   private:
     using Mascara = decltype(hn::Eq(V(), V()));
 
-    static HWY_INLINE Mascara Iguales(V bajas, V altas, uint8_t baja, uint8_t alta) {
-        return hn::And(hn::Eq(bajas, hn::Set(d, baja)), hn::Eq(altas, hn::Set(d, alta)));
-    }
-
     HWY_INLINE void ContarIguales(uint8_t baja, uint8_t alta, Mascara cuales, V estado) {
         const size_t valor = baja + size_t{256} * alta;
         for (const EstadoApuesta e : {ApuestaPasa, ApuestaRechazada}) {
             const auto suyas = hn::And(cuales, hn::Eq(estado, hn::Set(d, static_cast<uint8_t>(e))));
-            const auto cuantas = static_cast<int32_t>(hn::CountTrue(d, suyas));
-            if (cuantas > 0) cuentas_[0][CuentaPalabras::Lugar(valor, e)] += cuantas; // dead bets may have any
+            cuentas_[0][CuentaPalabras::Lugar(valor, e)] += static_cast<int32_t>(hn::CountTrue(d, suyas));
         }
     }
 
     HWY_INLINE void ContarUnaAUna(V bajas, V altas, V estado) {
-        static_assert(CuentaPalabras::Lugar(0, ApuestaRechazada) == 0x8000);
+        static_assert(CuentaPalabras::Lugar(0, ApuestaRechazada) == 0x8080);
         static_assert(CuentaPalabras::Lugar(0, ApuestaMuerta) == 0x7F00);
-        const V rechazo = hn::Or(altas, hn::ShiftLeft<7>(estado));
+        const V rechazo = hn::ShiftLeft<7>(estado);
         const auto muertas = hn::Eq(estado, hn::Set(d, ApuestaMuerta));
-        const V altasConEstado = hn::IfThenElse(muertas, hn::Set(d, 0x7F), rechazo);
+        const V altasConEstado = hn::IfThenElse(muertas, hn::Set(d, 0x7F), hn::Xor(altas, rechazo));
+        const V bajasConEstado = hn::Xor(bajas, rechazo);
         constexpr size_t ancho = hn::MaxLanes(d);
         HWY_ALIGN uint16_t lugar[ancho];
-        hn::Store(hn::BitCast(d16, hn::InterleaveLower(bajas, altasConEstado)), d16, lugar);
-        hn::Store(hn::BitCast(d16, hn::InterleaveUpper(d, bajas, altasConEstado)), d16, lugar + ancho / 2);
+        hn::Store(hn::BitCast(d16, hn::InterleaveLower(bajasConEstado, altasConEstado)), d16, lugar);
+        hn::Store(hn::BitCast(d16, hn::InterleaveUpper(d, bajasConEstado, altasConEstado)), d16, lugar + ancho / 2);
         for (size_t j = 0; j < ancho; j += CuentaPalabras::Turnos)
             for (size_t t = 0; t < CuentaPalabras::Turnos; ++t) ++cuentas_[t][lugar[j + t]];
     }
@@ -104,6 +110,7 @@ class RecuentoPalabras {
     static constexpr hn::RepartitionToWide<Bytes> d16{};
 
     int32_t* cuentas_[CuentaPalabras::Turnos];
+    int variados_ = 0; // vectors yet to be counted one bet at a time
 };
 
 void Bytes2(const Tramo& tramo, const uint8_t* baja, const uint8_t* alta, CuentaPalabras& cuenta) {
@@ -122,9 +129,11 @@ void Palabras(const Tramo& tramo, const uint16_t* valores, CuentaPalabras& cuent
     for (int64_t i = 0; i < tramo.n; i += static_cast<int64_t>(ancho)) {
         const auto estado = hn::PromoteTo(d16, hn::Load(mitad, tramo.eliminada + i));
         const auto muertas = hn::Eq(estado, hn::Set(d16, ApuestaMuerta));
-        const auto rechazo = hn::Or(hn::LoadU(d16, valores + i), hn::ShiftLeft<15>(estado));
+        const auto rechazo = hn::Or(hn::ShiftLeft<15>(estado), hn::ShiftLeft<7>(estado));
         HWY_ALIGN uint16_t lugar[ancho];
-        hn::Store(hn::IfThenElse(muertas, hn::Set(d16, CuentaPalabras::Lugar(0, ApuestaMuerta)), rechazo), d16, lugar);
+        hn::Store(hn::IfThenElse(muertas, hn::Set(d16, CuentaPalabras::Lugar(0, ApuestaMuerta)),
+                                 hn::Xor(hn::LoadU(d16, valores + i), rechazo)),
+                  d16, lugar);
         for (size_t j = 0; j < ancho; j += CuentaPalabras::Turnos)
             for (size_t t = 0; t < CuentaPalabras::Turnos; ++t) ++cuentas[t][lugar[j + t]];
     }
@@ -166,7 +175,7 @@ void NucleoContarAciertosEscalar(const Tramo& tramo, const uint8_t* valores, boo
     for (int64_t i = 0; i < tramo.n; ++i) {
         const size_t aciertos = (altos ? valores[i] >> 4 : valores[i]) & 7;
         if (aciertos > 6 || tramo.eliminada[i] == ApuestaMuerta) continue;
-        ++(tramo.eliminada[i] == ApuestaPasa ? cuenta.Pasan : cuenta.Rechazadas)[aciertos];
+        cuenta[aciertos].Sumar({1, tramo.eliminada[i] == ApuestaPasa});
     }
 }
 

@@ -18,10 +18,8 @@ struct CuentaValor {
     }
 };
 
-/// Bets by a count of 1 to 6; who counts those with 0 is content with what is left.
-struct CuentaAciertos {
-    std::array<int64_t, 7> Pasan{}, Rechazadas{};
-};
+/// Bets by a count of 0 to 6.
+using CuentaAciertos = std::array<CuentaValor, 7>;
 
 /// Adds the bets by bits 0 to 2 of their byte, or by bits 4 to 6 with `altos`.
 void NucleoContarAciertos(const Tramo& tramo, const uint8_t* valores, bool altos, CuentaAciertos& cuenta);
@@ -41,11 +39,12 @@ class CuentaPalabras {
 
     /// Where a bet of this value counts. What dead bets have in place of a value is above all others.
     static constexpr size_t Lugar(size_t valor, uint8_t estado) {
-        return estado == ApuestaMuerta ? Muerta : valor + (estado == ApuestaRechazada ? Rechazo : 0);
+        return estado == ApuestaMuerta ? Muerta : estado == ApuestaRechazada ? valor ^ Rechazo : valor;
     }
 
   private:
-    static constexpr size_t Rechazo = 1u << 15, Muerta = Valores, PorTurno = 1u << 16;
+    // Processors take counts for the same that are a multiple of 4096 bytes apart: those of one value are not.
+    static constexpr size_t Rechazo = 0x8080, Muerta = Valores, PorTurno = 0x10000 + 0x100;
 
     std::vector<int32_t> cuentas_;
 };

@@ -17,6 +17,7 @@ void DeclararGenerar(CLI::App& programa, Lote& lote);
 void DeclararSistemaPropio(CLI::App& programa, Lote& lote);
 void DeclararGarantias(CLI::App& programa, Lote& lote);
 void DeclararMiniGarantias(CLI::App& programa, Lote& lote);
+void DeclararHuecos(CLI::App& programa, Lote& lote);
 void DeclararEscrutar(CLI::App& programa, Lote& lote);
 void DeclararPremios(CLI::App& programa, Lote& lote);
 void DeclararMultiescrutinio(CLI::App& programa, Lote& lote);

@@ -48,6 +48,7 @@ int main(int argc, char** argv) {
     DeclararSistemaPropio(programa, lote);
     DeclararGarantias(programa, lote);
     DeclararMiniGarantias(programa, lote);
+    DeclararHuecos(programa, lote);
     DeclararEscrutar(programa, lote);
     DeclararPremios(programa, lote);
     DeclararMultiescrutinio(programa, lote);

@@ -50,10 +50,12 @@ void MejorarReduccion(LogicaVentanaProceso& vp) {
     const EstadoTrabajo& trabajo = vp.sesion.trabajo;
     FinesMejora& fines = vp.finesMejora;
     const std::vector<uint64_t> sistema = EnPosiciones(trabajo);
-    Mejora mejora(trabajo.ApuestasCondicionadas, trabajo.NumerosBase, LaPedida(vp, sistema), fines.Semilla);
+    const Garantia garantia = LaPedida(vp, sistema);
+    Mejora mejora(trabajo.ApuestasCondicionadas, trabajo.NumerosBase, garantia, fines.Semilla);
     if (!mejora.PartirDe(sistema)) return;
+    if (garantia.Exigido < vp.NApuestasReduccion && vp.PorNumero && !mejora.FijarApuestas(vp.NApuestas)) return;
     vp.Cota = mejora.Cota();
-    if (mejora.Apuestas() < static_cast<int32_t>(sistema.size())) vp.TomarMejorado(mejora.Sistema());
+    if (mejora.Sistema() != sistema) vp.TomarMejorado(mejora.Sistema());
     for (vp.PasosMejora = 0; !mejora.Terminada() && vp.Turno(0); vp.PasosMejora += PasosPorTurno) {
         vp.SegundosMejora = std::chrono::duration<double>(Reloj::now() - comienzo).count();
         if (fines.Segundos > 0 && vp.SegundosMejora >= fines.Segundos) break;

@@ -27,7 +27,7 @@ INSTANTIATE_TEST_SUITE_P(Ordenes, Ayuda,
                                          "eliminadas", "analisis", "garantias", "minigarantias", "escrutar",
                                          "multiescrutinio", "multifichero", "premios", "estadisticas", "actualizar",
                                          "algebra", "rentabilidad", "generar-numeros", "generar-porcentajes",
-                                         "sistema-propio"),
+                                         "sistema-propio", "huecos"),
                          [](const auto& caso) {
                              std::string nombre = caso.param;
                              std::replace(nombre.begin(), nombre.end(), '-', '_');

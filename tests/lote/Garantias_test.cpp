@@ -32,6 +32,16 @@ class Garantias : public testing::Test {
     }
 };
 
+// The three bets are all within one number of the seven of the base: none is left out al 5, five al 6.
+TEST_F(Garantias, LosHuecosDeUnSistema) {
+    const Resultado cinco = Ejecutar({"huecos", "base.xml", "--sistema", "tres.txt"});
+    EXPECT_EQ(cinco.Salida, "Huecos: 0 de 7 (0,00 %)\n");
+    EXPECT_EQ(cinco.Estado, 0);
+    const Resultado seis = Ejecutar({"huecos", "base.xml", "--sistema", "tres.txt", "--aciertos", "6"});
+    EXPECT_EQ(seis.Salida, "020509143138\n020509233138\n020514233138\n020914233138\n050914233138\n"
+                           "Huecos: 5 de 7 (71,43 %)\n");
+}
+
 TEST_F(Garantias, SobreElTotalEscribeElResumenYElInforme) {
     const Resultado r = Ejecutar({"garantias", "base.xml", "--sistema", "tres.txt"});
     EXPECT_EQ(r.Errores, "");

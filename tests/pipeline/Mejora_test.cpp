@@ -103,8 +103,9 @@ TEST(Mejora, LlegaALosSistemasMasPequenos) {
         int n, t, porcentaje;
         size_t apuestas;
         int64_t pasos;
-    } const casos[] = {{8, 5, 100, 4, 2000},  {9, 5, 100, 7, 20000}, {10, 5, 100, 14, 60000}, {9, 4, 100, 3, 2000},
-                       {11, 4, 100, 5, 2000}, {12, 4, 100, 6, 2000}, {12, 3, 100, 2, 2000},   {10, 2, 100, 1, 100}};
+    } const casos[] = {{8, 5, 100, 4, 2000},  {9, 5, 100, 7, 20000}, {10, 5, 100, 14, 60000},
+                       {9, 4, 100, 3, 2000},  {11, 4, 100, 5, 2000}, {12, 4, 100, 6, 2000},
+                       {12, 3, 100, 2, 2000}, {10, 2, 100, 1, 100},  {15, 2, 100, 2, 3000}};
     for (const auto& c : casos) {
         const Caso caso(c.n, c.t, 1, c.porcentaje, dado);
         const std::vector<uint64_t> sistema = Mejorar(caso, c.pasos, 3);
@@ -122,6 +123,27 @@ TEST(Mejora, LosMismosPasosDanElMismoSistemaTambienPorPartes) {
         ASSERT_TRUE(porPartes.PartirDe(caso.Barrida()));
         for (int i = 0; i < 300; ++i) porPartes.Pasos(100);
         EXPECT_EQ(porPartes.Sistema(), deUnaVez);
+    }
+}
+
+TEST(Mejora, TantasApuestasNoCubrenNuncaMenosQueAlEmpezar) {
+    Dado dado(3);
+    for (int i = 0; i < 12; ++i) {
+        Caso caso(10 + i % 3, 3 + i % 3, 1 + i % 3, 100, dado);
+        std::vector<uint64_t> partida = caso.Barrida();
+        partida.resize((partida.size() + 1) / 2);
+        const int64_t antes = caso.Cubiertas(partida);
+        caso.garantia.Exigido = antes;
+        Mejora mejora(caso.apuestas, caso.n, caso.garantia, 1);
+        ASSERT_TRUE(mejora.PartirDe(partida));
+        ASSERT_TRUE(mejora.FijarApuestas(static_cast<int32_t>(partida.size())));
+        for (int k = 0; k < 3; ++k) {
+            EXPECT_EQ(mejora.Cubiertas(), caso.Cubiertas(mejora.Sistema()));
+            EXPECT_GE(mejora.Cubiertas(), antes);
+            EXPECT_LE(mejora.Apuestas(), static_cast<int32_t>(partida.size()));
+            mejora.Pasos(300);
+        }
+        EXPECT_GT(mejora.Cubiertas(), antes);
     }
 }
 

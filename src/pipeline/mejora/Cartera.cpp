@@ -6,7 +6,7 @@
 namespace {
 
 constexpr int32_t MinimoOrbitas = 12, MaximoOrbitas = 4000;
-constexpr int64_t MaximoPares = 1 << 22;
+constexpr size_t MinimoRamas = 3;           // before any gets more work
 constexpr int64_t TrabajoPorOrbita = 20000; // of a symmetry's first turn
 constexpr int64_t TrabajoPorTurno = 1 << 26;
 
@@ -19,8 +19,9 @@ Simetria Reflejo(int n) {
 
 } // namespace
 
-Cartera::Cartera(const Familia& filas, const Familia& columnas, int t, int64_t exigido, uint64_t semilla)
-    : filas_(filas), columnas_(columnas), t_(t), exigido_(exigido), clases_(ClasesDe(filas)) {
+Cartera::Cartera(const Familia& filas, const Familia& columnas, int t, int64_t exigido, uint64_t semilla,
+                 LimitesCartera limites)
+    : filas_(filas), columnas_(columnas), t_(t), exigido_(exigido), limites_(limites), clases_(ClasesDe(filas)) {
     azar_.Sembrar(semilla);
 }
 
@@ -28,12 +29,11 @@ bool Cartera::Paso() {
     if (actual_ == nullptr || actual_->trabajo >= finTurno_) ElegirRama();
     if (actual_ == nullptr) return false;
     BusquedaLocal& busqueda = *actual_->busqueda;
-    const int32_t antes = busqueda.MejorCoste();
     const int64_t trabajo = busqueda.Trabajo();
     busqueda.Paso();
     trabajo_ += busqueda.Trabajo() - trabajo;
     actual_->trabajo += busqueda.Trabajo() - trabajo;
-    return busqueda.MejorCoste() < antes && Anotar(*actual_);
+    return Anotar(*actual_);
 }
 
 bool Cartera::Anotar(const Rama& rama) {
@@ -45,9 +45,9 @@ bool Cartera::Anotar(const Rama& rama) {
 // As much work goes into new symmetries as into those that stand.
 void Cartera::ElegirRama() {
     actual_ = nullptr;
-    if (ramas_.size() < 4 || explorado_ <= trabajo_ / 2) {
-        Explorar();
-    } else {
+    const bool quedan = fallidas_ < MaximoFallidas;
+    if (quedan && (ramas_.size() < MinimoRamas || explorado_ <= trabajo_ / 2)) Explorar();
+    if (actual_ == nullptr && !ramas_.empty()) {
         actual_ = LaQueMerece();
         finTurno_ = actual_->trabajo + TrabajoPorTurno;
     }
@@ -62,7 +62,7 @@ void Cartera::Explorar() {
         return;
     }
     fallidas_ = 0;
-    if (ramas_.size() == MaximoRamas) DespedirPeor();
+    if (ramas_.size() == limites_.Ramas) DespedirPeor();
     actual_ = rama.get();
     finTurno_ = actual_->trabajo + TrabajoPorOrbita * actual_->problema.Columnas();
     explorado_ += finTurno_ - actual_->trabajo;
@@ -90,8 +90,11 @@ Cartera::Rama* Cartera::LaQueMerece() const {
 }
 
 Simetria Cartera::ProbarSimetria(const Rama*& origen) {
-    if (probadas_++ == 0 && !filas_.Completa()) return Reflejo(filas_.n());
-    if (ramas_.size() >= 4 && azar_.Entero(4) == 0) {
+    if (probadas_++ == 0) {
+        if (limites_.SinSimetria) return {};
+        if (!filas_.Completa()) return Reflejo(filas_.n());
+    }
+    if (ramas_.size() >= MinimoRamas && azar_.Entero(4) == 0) {
         const Rama* candidata = LaQueMerece();
         if (!candidata->simetria.empty()) {
             origen = candidata;
@@ -106,8 +109,8 @@ std::unique_ptr<Cartera::Rama> Cartera::NuevaRama() {
     auto rama = std::make_unique<Rama>();
     const Rama* origen = nullptr;
     rama->simetria = ProbarSimetria(origen);
-    if (rama->simetria.empty() || !Plantear(*rama)) return nullptr;
-    if (!EsNueva(*rama)) return nullptr;
+    const bool sobra = rama->simetria.empty() && (probadas_ > 1 || !limites_.SinSimetria);
+    if (sobra || !Plantear(*rama) || !EsNueva(*rama)) return nullptr;
     rama->busqueda = std::make_unique<BusquedaLocal>(rama->problema, static_cast<uint64_t>(probadas_));
     std::vector<int32_t> partida;
     if (origen != nullptr)
@@ -126,7 +129,7 @@ bool Cartera::Plantear(Rama& rama) {
     if (!iguales && !HallarOrbitas(filas_, rama.simetria, MaximoOrbitas, rama.filas)) return false;
     if (rama.columnas.Cuantas() < MinimoOrbitas) return false;
     const Orbitas& deFilas = iguales ? rama.columnas : rama.filas;
-    if (!RecubrimientoDeOrbitas(filas_, deFilas, columnas_, rama.columnas, t_, MaximoPares, rama.problema))
+    if (!RecubrimientoDeOrbitas(filas_, deFilas, columnas_, rama.columnas, t_, limites_.Pares, rama.problema))
         return false;
     trabajo_ += rama.problema.cubren.Cuantas();
     rama.problema.exigido = exigido_;

@@ -7,14 +7,23 @@
 #include "BusquedaLocal.h"
 #include "Simetria.h"
 
+/// How many symmetries are kept, how many pairs of an orbit and one that covers it each may have, and
+/// whether the search without a symmetry is one of them.
+struct LimitesCartera {
+    size_t Ramas = 12;
+    int64_t Pares = 1 << 22;
+    bool SinSimetria = false;
+};
+
 /// A system that a symmetry leaves as it is consists of whole orbits, and choosing among some hundreds of
 /// orbits is quick even where choosing among the bets is not. Symmetries are drawn at random; those that
-/// gave small systems get more work, and are relaxed. Memory: 16 MB for each of the twelve that are kept,
-/// and for each 4 bytes a bet.
+/// gave small systems get more work, and are relaxed. Memory: 4 bytes a pair for each that is kept,
+/// and 4 bytes a bet.
 class Cartera {
   public:
     /// Covers `exigido` of the rows by the columns with at least t in common. The families outlive it.
-    Cartera(const Familia& filas, const Familia& columnas, int t, int64_t exigido, uint64_t semilla);
+    Cartera(const Familia& filas, const Familia& columnas, int t, int64_t exigido, uint64_t semilla,
+            LimitesCartera limites = {});
 
     /// One exchange in one of the searches. True when it gave a smaller system than all before.
     bool Paso();
@@ -35,7 +44,6 @@ class Cartera {
         std::unique_ptr<BusquedaLocal> busqueda;
         int64_t trabajo = 0;
     };
-    static constexpr size_t MaximoRamas = 12;
     static constexpr int MaximoFallidas = 400;
 
     void ElegirRama();
@@ -51,6 +59,7 @@ class Cartera {
     const Familia &filas_, &columnas_;
     int t_;
     int64_t exigido_;
+    LimitesCartera limites_;
     Azar azar_;
     Clases clases_;
     std::vector<std::unique_ptr<Rama>> ramas_;

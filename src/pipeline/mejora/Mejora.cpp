@@ -1,11 +1,15 @@
 #include "Mejora.h"
 
+#include <limits>
+#include <stdexcept>
+
 #include "Comprobar.h"
+#include "Rangos.h"
 #include "Sobrantes.h"
 
 namespace {
 
-constexpr int64_t MaximoPares = int64_t{1} << 26;
+constexpr int64_t MaximoPares = 140'000'000;
 constexpr int32_t MaximoConSimetria = 2'000'000; // bets
 constexpr int64_t TrabajoPorTurno = int64_t{1} << 26;
 
@@ -23,6 +27,11 @@ Mejora::Mejora(const Tabla& condicionadas, int n, Garantia garantia, uint64_t se
     }
     if (familia_.Cuantas() <= MaximoConSimetria)
         cartera_.emplace(familia_, familia_, garantia.Aciertos, garantia.Exigido, semilla);
+    if (familia_.Completa() && garantia.Aciertos <= 3 && garantia.Exigido >= familia_.Total())
+        particion_.emplace(n, garantia.Aciertos, semilla);
+    const bool casiTodas = !familia_.Completa() && 2 * familia_.Cuantas() >= Combinar(n, 6);
+    if (casiTodas && directa_ && garantia.Exigido >= familia_.Total())
+        restriccion_.emplace(familia_, *problema_, garantia.Aciertos, semilla);
 }
 
 bool Mejora::PartirDe(const std::vector<uint64_t>& sistema) {
@@ -50,31 +59,119 @@ bool Mejora::Aceptar(const std::vector<int32_t>& apuestas) {
     return true;
 }
 
-// The two searches share the work by halves.
-void Mejora::ElegirTurno() {
-    const bool hayCartera = cartera_ && !cartera_->Agotada();
-    turnoDirecto_ = directa_ && (!hayCartera || directa_->Trabajo() <= cartera_->Trabajo());
-    finTurno_ = (turnoDirecto_ ? directa_->Trabajo() : hayCartera ? cartera_->Trabajo() : 0) + TrabajoPorTurno;
-    if (turnoDirecto_ && atrasada_) directa_->PartirDe(apuestas_);
-    if (turnoDirecto_) atrasada_ = false;
+bool Mejora::Hay(Fuente fuente) const {
+    switch (fuente) {
+    case Fuente::Directa:
+        return directa_.has_value();
+    case Fuente::Simetrica:
+        return HaySimetrias();
+    case Fuente::Restringida:
+        return restriccion_.has_value();
+    case Fuente::Partida:
+        return particion_.has_value();
+    }
+    return false;
 }
 
-bool Mejora::PasoDirecto() {
-    directa_->Paso();
-    return directa_->MejorCoste() < Apuestas() && Aceptar(directa_->Mejor());
+int64_t Mejora::Trabajo(Fuente fuente) const {
+    switch (fuente) {
+    case Fuente::Directa:
+        return directa_->Trabajo();
+    case Fuente::Simetrica:
+        return cartera_->Trabajo();
+    case Fuente::Restringida:
+        return restriccion_->Trabajo();
+    case Fuente::Partida:
+        return particion_->Trabajo();
+    }
+    return 0;
+}
+
+// The searches share the work evenly.
+void Mejora::ElegirTurno() {
+    int64_t menos = std::numeric_limits<int64_t>::max();
+    for (const Fuente fuente : {Fuente::Directa, Fuente::Simetrica, Fuente::Restringida, Fuente::Partida})
+        if (Hay(fuente) && Trabajo(fuente) < menos) {
+            menos = Trabajo(fuente);
+            turno_ = fuente;
+        }
+    finTurno_ = menos + TrabajoPorTurno;
+    if (turno_ != Fuente::Directa || !atrasada_) return;
+    directa_->PartirDe(apuestas_);
+    atrasada_ = false;
+}
+
+void Mejora::Avanzar() {
+    switch (turno_) {
+    case Fuente::Directa:
+        return directa_->Paso();
+    case Fuente::Simetrica:
+        cartera_->Paso();
+        return;
+    case Fuente::Restringida:
+        restriccion_->Paso();
+        return;
+    case Fuente::Partida:
+        particion_->Paso();
+    }
+}
+
+// What the search of this turn has found so far; 0 for nothing.
+size_t Mejora::CuantasHalladas() const {
+    return turno_ == Fuente::Directa       ? directa_->Mejor().size()
+           : turno_ == Fuente::Simetrica   ? cartera_->Mejor().size()
+           : turno_ == Fuente::Restringida ? restriccion_->Mejor().size()
+                                           : particion_->Mejor().size();
+}
+
+std::vector<int32_t> Mejora::Halladas() const {
+    if (turno_ == Fuente::Directa) return directa_->Mejor();
+    if (turno_ == Fuente::Simetrica) return cartera_->Mejor();
+    if (turno_ == Fuente::Restringida) return restriccion_->Mejor();
+    std::vector<int32_t> apuestas;
+    for (const uint64_t mascara : particion_->Mejor()) apuestas.push_back(familia_.Lugar(mascara));
+    return apuestas;
+}
+
+bool Mejora::Paso() {
+    if (!Hay(turno_) || Trabajo(turno_) >= finTurno_) ElegirTurno();
+    Avanzar();
+    const size_t halladas = CuantasHalladas();
+    if (halladas == 0 || halladas >= sistema_.size()) return false;
+    if (!Aceptar(Halladas())) throw std::logic_error("la búsqueda ha dado un sistema que no cumple");
+    atrasada_ = atrasada_ || turno_ != Fuente::Directa;
+    return true;
+}
+
+bool Mejora::FijarApuestas(int32_t cuantas) {
+    if (!directa_) return false;
+    directa_->FijarCoste(cuantas, apuestas_);
+    cubiertas_ = 0;
+    return PasoFijo();
+}
+
+// Takes what the search has found if it covers more.
+bool Mejora::PasoFijo() {
+    if (directa_->MejorCubierto() <= cubiertas_) return false;
+    garantia_.Exigido = directa_->MejorCubierto();
+    cubiertas_ = garantia_.Exigido;
+    return Aceptar(directa_->Mejor());
+}
+
+bool Mejora::Terminada() const {
+    if (cubiertas_ >= 0) return cubiertas_ >= familia_.Total();
+    return Apuestas() <= cota_ || (!directa_ && !HaySimetrias() && !particion_);
 }
 
 bool Mejora::Pasos(int64_t cuantos) {
     bool mejora = false;
     for (int64_t i = 0; i < cuantos && !Terminada(); ++i) {
-        const int64_t hecho = turnoDirecto_ ? (directa_ ? directa_->Trabajo() : 0) : cartera_->Trabajo();
-        if (hecho >= finTurno_) ElegirTurno();
-        if (turnoDirecto_) {
-            mejora = PasoDirecto() || mejora;
-        } else if (cartera_->Paso() && static_cast<int32_t>(cartera_->Mejor().size()) < Apuestas() &&
-                   Aceptar(cartera_->Mejor())) {
-            mejora = atrasada_ = true;
+        if (cubiertas_ < 0) {
+            mejora = Paso() || mejora;
+            continue;
         }
+        directa_->Paso();
+        mejora = PasoFijo() || mejora;
     }
     return mejora;
 }

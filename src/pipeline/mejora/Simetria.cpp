@@ -7,12 +7,6 @@
 
 namespace {
 
-uint64_t Imagen(const Permutacion& p, uint64_t mascara) {
-    uint64_t imagen = 0;
-    for (; mascara != 0; mascara &= mascara - 1) imagen |= uint64_t{1} << p[std::countr_zero(mascara)];
-    return imagen;
-}
-
 Orbitas CadaUnaLaSuya(const Familia& familia) {
     Orbitas orbitas;
     orbitas.de.resize(familia.Cuantas());
@@ -23,6 +17,12 @@ Orbitas CadaUnaLaSuya(const Familia& familia) {
 }
 
 } // namespace
+
+uint64_t Imagen(const Permutacion& p, uint64_t mascara) {
+    uint64_t imagen = 0;
+    for (; mascara != 0; mascara &= mascara - 1) imagen |= uint64_t{1} << p[std::countr_zero(mascara)];
+    return imagen;
+}
 
 bool HallarOrbitas(const Familia& familia, const Simetria& simetria, int32_t tope, Orbitas& orbitas) {
     orbitas.de.assign(familia.Cuantas(), -1);
@@ -63,6 +63,9 @@ bool RecubrimientoDeOrbitas(const Familia& filas, const Orbitas& deFilas, const 
     problema = {};
     problema.simetrico = &filas == &columnas;
     problema.coste = deColumnas.tamanio;
+    const int64_t vecinas = TamanioVecindad(filas.n(), filas.k(), columnas.k(), t);
+    problema.cubren.elementos.reserve(
+        std::min(tope, deFilas.Cuantas() * std::min<int64_t>(vecinas, deColumnas.Cuantas())));
     std::vector<int32_t> visto(deColumnas.Cuantas(), -1);
     for (int32_t f = 0; f < deFilas.Cuantas(); ++f) {
         const int32_t primera = deFilas.representante[f];
@@ -83,7 +86,8 @@ bool RecubrimientoDeOrbitas(const Familia& filas, const Orbitas& deFilas, const 
 }
 
 bool RecubrimientoDirecto(const Familia& filas, const Familia& columnas, int t, int64_t tope, Recubrimiento& problema) {
-    if (filas.Cuantas() > tope) return false;
+    const bool todas = filas.Completa() && columnas.Completa();
+    if (filas.Cuantas() * (todas ? TamanioVecindad(filas.n(), filas.k(), columnas.k(), t) : 1) > tope) return false;
     const Orbitas deFilas = CadaUnaLaSuya(filas);
     return &filas == &columnas
                ? RecubrimientoDeOrbitas(filas, deFilas, filas, deFilas, t, tope, problema)

@@ -11,6 +11,9 @@
 /// Image of each bit, from 0.
 using Permutacion = std::array<uint8_t, 49>;
 
+/// Where the permutation takes a subset.
+uint64_t Imagen(const Permutacion& p, uint64_t mascara);
+
 /// A group of permutations by its generators.
 using Simetria = std::vector<Permutacion>;
 

@@ -77,3 +77,15 @@ std::string DoceCifras(const EstadoTrabajo& trabajo, int32_t apuesta) {
         cifras += fmt::format("{:02}", trabajo.BaseNumeros[trabajo.ApuestasCondicionadas(r, apuesta)]);
     return cifras;
 }
+
+std::string InformeHuecos(const EstadoTrabajo& trabajo, const std::vector<int32_t>& huecos, const std::string& texto) {
+    constexpr size_t MaximoEscritas = 100000;
+    std::string informe = fmt::format("TOMBOLERA Huecos del sistema reducido : {}\n\n", texto);
+    const size_t escritas = std::min(huecos.size(), MaximoEscritas);
+    for (size_t i = 0; i < escritas; ++i) {
+        const std::string cifras = DoceCifras(trabajo, huecos[i]);
+        for (size_t r = 0; r < 6; ++r) informe += cifras.substr(2 * r, 2) + (r < 5 ? " " : "\n");
+    }
+    if (escritas < huecos.size()) informe += fmt::format("... y {} más\n", huecos.size() - escritas);
+    return informe;
+}

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "EstadoTrabajo.h"
@@ -17,6 +18,10 @@ bool HallarHuecos(const EstadoTrabajo& trabajo, const Tabla& sistema, int aciert
 
 /// "12 de 924 (1,30 %)".
 std::string TextoHuecos(int64_t huecos, int64_t condicionadas, char separador);
+
+/// The report of the gaps: `texto`, their count, and the first hundred thousand of them.
+inline constexpr std::string_view NombreInformeHuecos = "TOMBOLERA_HUECOS.txt";
+std::string InformeHuecos(const EstadoTrabajo& trabajo, const std::vector<int32_t>& huecos, const std::string& texto);
 
 /// The real numbers of a conditioned bet, twelve digits.
 std::string DoceCifras(const EstadoTrabajo& trabajo, int32_t apuesta);

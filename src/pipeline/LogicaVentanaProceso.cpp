@@ -9,7 +9,9 @@
 #include "AjustarApuestasExactas.h"
 #include "ContarNumeros.h"
 #include "GenerarApuestas.h"
+#include "Huecos.h"
 #include "InformePorcentajes.h"
+#include "Informes.h"
 #include "MejorarReduccion.h"
 #include "ReducirPorCobertura.h"
 #include "ReducirSecuencial.h"
@@ -62,7 +64,8 @@ void LogicaVentanaProceso::VerPorcentajes() {
 
 void LogicaVentanaProceso::Habilitar(bool corriendo) {
     Corriendo = imgDetener = corriendo;
-    imgCalcular = imgVolver = imgCalculoDefinitivo = imgVerPorcentajes = imgGarantias = imgMejorar = !corriendo;
+    imgCalcular = imgVolver = imgCalculoDefinitivo = imgVerPorcentajes = imgGarantias = imgMejorar = imgHuecos =
+        !corriendo;
 }
 
 // However the run ends, the best system found so far stands and the window is idle again.
@@ -70,6 +73,8 @@ void LogicaVentanaProceso::Correr() {
     Habilitar(true);
     lblCiclos = "0";
     lblProgressBar = 0;
+    lblCota.clear();
+    lblHuecos.clear();
     Hallazgos.clear();
     Protegido([this] {
         Reducir();
@@ -97,7 +102,11 @@ bool LogicaVentanaProceso::Mejorar() {
         return Fallo(entorno, "ERROR: No hay ningún sistema reducido que mejorar");
     Habilitar(true);
     detener = false;
+    Mejorando = true;
+    lblHuecos.clear();
+    SegundosMejora = 0;
     Protegido([this] { MejorarReduccion(*this); });
+    Mejorando = false;
     detener = true;
     PorcentajesDespues();
     Habilitar(false);
@@ -173,7 +182,7 @@ void LogicaVentanaProceso::Ajustar() {
 
 bool LogicaVentanaProceso::Turno(double fraccion) {
     lblProgressBar = fraccion;
-    if (++turnos_ % TurnosPorReloj == 0)
+    if (!Mejorando && ++turnos_ % TurnosPorReloj == 0)
         Segundos = std::chrono::duration<double>(std::chrono::steady_clock::now() - comienzo_).count();
     entorno.CederTurno();
     if (TopeCiclos > 0 && CicloActual >= TopeCiclos) detener = true;
@@ -232,7 +241,29 @@ void LogicaVentanaProceso::TomarMejorado(const std::vector<uint64_t>& sistema) {
     }
     trabajo.ApuestasReducidas = std::move(nueva);
     MejorApuestas = static_cast<int32_t>(sistema.size());
+    if (Hallazgos.empty() || MejorApuestas < Hallazgos.back().Apuestas)
+        Hallazgos.push_back({CicloActual, MejorApuestas});
     MostrarReducidas(MejorApuestas);
+}
+
+void LogicaVentanaProceso::VerHuecos() {
+    const EstadoTrabajo& trabajo = sesion.trabajo;
+    if (Corriendo) return;
+    if (trabajo.Contador.Reducidas == 0) {
+        Fallo(entorno, "ERROR: No hay ningún sistema reducido");
+        return;
+    }
+    Protegido([&] {
+        std::vector<int32_t> huecos;
+        const auto turno = [this] {
+            entorno.CederTurno();
+            return true;
+        };
+        HallarHuecos(trabajo, trabajo.ApuestasReducidas, 6 - trabajo.Reduccion.TipoReduccion, turno, huecos);
+        lblHuecos = TextoHuecos(static_cast<int64_t>(huecos.size()), trabajo.ApuestasCondicionadas.Apuestas(),
+                                entorno.SeparadorDecimal);
+        MostrarInforme(entorno, NombreInformeHuecos, InformeHuecos(trabajo, huecos, lblHuecos));
+    });
 }
 
 bool LogicaVentanaProceso::BastaElMejor() const {

@@ -26,11 +26,13 @@ struct LogicaVentanaProceso {
     // What is shown. Fractions go from 0 to 1.
     std::string lblApuestasInicialesVP, lblApuestasCondicionadasVP, lblApuestasVP;
     std::string lblDirecto, lblCiclos = "0", fraPorcentajes;
+    std::string lblCota, lblHuecos; ///< empty until they are known
     double lblProgressBar = 0;
     std::array<std::string, NumeroMaximoBoleto + 1> lblN;          ///< by number; empty above `NumeroMaximo`
     std::array<bool, NumeroMaximoBoleto + 1> lblNConApuestas{};    ///< coloured: some bet holds the number
     bool imgDetener = false, imgCalcular = true, imgVolver = true; ///< what is enabled
-    bool imgCalculoDefinitivo = true, imgVerPorcentajes = true, imgGarantias = true, imgMejorar = true;
+    bool imgCalculoDefinitivo = true, imgVerPorcentajes = true, imgGarantias = true;
+    bool imgMejorar = true, imgHuecos = true;
     bool Corriendo = false;
     bool Cerrada = false; ///< the window is asked to close
 
@@ -48,7 +50,8 @@ struct LogicaVentanaProceso {
 
     // The search for a smaller system.
     FinesMejora finesMejora;
-    int32_t Cota = 0; ///< no system with the guarantee is smaller; 0 while unknown
+    bool Mejorando = false; ///< it is what runs
+    int32_t Cota = 0;       ///< no system with the guarantee is smaller; 0 while unknown
     int64_t PasosMejora = 0;
     double SegundosMejora = 0;
 
@@ -79,6 +82,10 @@ struct LogicaVentanaProceso {
     /// `imgMejorar`: looks for a smaller system with the same guarantee until it is stopped. Each one found
     /// stands as the reduced system. False after a box.
     bool Mejorar();
+
+    /// `imgHuecos`: counts the conditioned bets that the system does not cover at the level of the reduction,
+    /// and shows the first of them in a report.
+    void VerHuecos();
 
     /// The frame's own close button: always refused, because only the two buttons lead out.
     bool PuedeCerrar() const { return Cerrada; }

@@ -5,6 +5,7 @@
 #include "Comprobar.h"
 #include "LogicaVentanaProceso.h"
 #include "Mejora.h"
+#include "modGeneral.h"
 
 namespace {
 
@@ -55,6 +56,7 @@ void MejorarReduccion(LogicaVentanaProceso& vp) {
     if (!mejora.PartirDe(sistema)) return;
     if (garantia.Exigido < vp.NApuestasReduccion && vp.PorNumero && !mejora.FijarApuestas(vp.NApuestas)) return;
     vp.Cota = mejora.Cota();
+    vp.lblCota = FormatoMiles(vp.Cota, vp.entorno.SeparadorMiles);
     if (mejora.Sistema() != sistema) vp.TomarMejorado(mejora.Sistema());
     for (vp.PasosMejora = 0; !mejora.Terminada() && vp.Turno(0); vp.PasosMejora += PasosPorTurno) {
         vp.SegundosMejora = std::chrono::duration<double>(Reloj::now() - comienzo).count();

@@ -159,7 +159,7 @@ TEST_F(Calcular, LaReduccionSinFinHaceLosCiclosPedidos) {
     }
 }
 
-// The 28 bets of eight numbers al 5 take four; one cycle finds five or more.
+// The 28 bets of eight numbers al 5 take four.
 TEST_F(Calcular, MejoraElSistemaAntesDeGrabarlo) {
     ActivarReduccion();
     const Resultado r = Ejecutar({"calcular", "base.xml", "--mejorar-pasos", "3000", "--texto", "f.txt"});

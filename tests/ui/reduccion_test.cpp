@@ -124,9 +124,10 @@ struct Calculo : Guion {
     }
 };
 
-const Textos BotonesProceso{"imgCalcular",  "imgDetener", "imgVerPorcentajes",
-                            "imgGarantias", "imgVolver",  "imgCalculoDefinitivo"};
-const Textos EnReposo{"imgCalcular", "imgVerPorcentajes", "imgGarantias", "imgVolver", "imgCalculoDefinitivo"};
+const Textos BotonesProceso{"imgCalcular", "imgMejorar",   "imgDetener", "imgVerPorcentajes",
+                            "imgHuecos",   "imgGarantias", "imgVolver",  "imgCalculoDefinitivo"};
+const Textos EnReposo{"imgCalcular",  "imgMejorar", "imgVerPorcentajes",   "imgHuecos",
+                      "imgGarantias", "imgVolver",  "imgCalculoDefinitivo"};
 
 bool EnMarcha(QDialog& d) {
     return Habilitado(d, "imgDetener") && Texto(d, "lblApuestasVP") != "0" && Texto(d, "lblCiclos") != "0";
@@ -268,6 +269,38 @@ TEST(frmVentanaProceso, VolverDejaElSistemaSinGrabar) {
     EXPECT_GT(c.sesion.trabajo.Contador.Reducidas, 0);
     EXPECT_LT(c.sesion.trabajo.Contador.Reducidas, 924);
     EXPECT_TRUE(c.Peticiones.empty());
+}
+
+// Eight numbers al 5 take four bets, which is more than the bound, so that the search goes on until it is stopped.
+TEST(frmVentanaProceso, MejoraElSistemaYEnsenaSusHuecos) {
+    const CarpetaTemporal carpeta;
+    Calculo c;
+    c.entorno.CarpetaInformes = carpeta.Ruta();
+    c.MarcarHasta(8);
+    c.sesion.trabajo.Reduccion.TipoReduccion = 1;
+    c.sesion.trabajo.Reduccion.ActivarCiclos = 0;
+    c.sesion.condiciones.lstFiltros[FilaReduccion].Activo = true;
+    const auto mejorando = [](QDialog& d) { return Texto(d, "lblEstado") == "Mejorando ..."; };
+    const auto hayCuatro = [](QDialog& d) { return Texto(d, "lblApuestasVP") == "4"; };
+    Pasos pasos;
+    pasos.Dar(Parada, [&](QDialog& d) {
+        EXPECT_EQ(Texto(d, "lblHuecos"), "-");
+        Pulsar(d, "imgHuecos");
+        EXPECT_EQ(Texto(d, "lblHuecos"), "0 de 28 (0,00 %)");
+        EXPECT_EQ(c.Informes, Textos{carpeta.Ruta() + "/TOMBOLERA_HUECOS.txt"});
+        Pulsar(d, "imgMejorar");
+    });
+    pasos.Dar(mejorando, [](QDialog& d) { EXPECT_EQ(Habilitados(d, BotonesProceso), Textos{"imgDetener"}); });
+    pasos.Dar(hayCuatro, [](QDialog& d) { Pulsar(d, "imgDetener"); });
+    pasos.Dar(Parada, [](QDialog& d) {
+        EXPECT_EQ(Texto(d, "lblCota"), "3");
+        Pulsar(d, "imgVolver");
+    });
+    pasos.Empezar();
+    Pulsar(c.ventana, "lblMenu_4");
+    EXPECT_EQ(pasos.Dados(), 4u);
+    EXPECT_EQ(c.sesion.trabajo.Contador.Reducidas, 4);
+    EXPECT_EQ(c.Cajas, Textos{});
 }
 
 // The window of guarantees opens over the process window, and on the way back nothing runs again.

@@ -35,7 +35,7 @@ QString TextoTiempo(double segundos, char decimal) {
 }
 
 QString TextoEstado(const LogicaVentanaProceso& l) {
-    if (l.Corriendo) return l.detener ? Q("Terminando ...") : Q("Reduciendo ...");
+    if (l.Corriendo) return l.detener ? Q("Terminando ...") : l.Mejorando ? Q("Mejorando ...") : Q("Reduciendo ...");
     if (l.NApuestasReduccion == 0) return Q("Preparado");
     return l.MejorApuestas <= l.NApuestasReduccion ? Q("Terminado") : Q("Detenido sin ningún sistema");
 }
@@ -112,6 +112,8 @@ QGroupBox* frmVentanaProceso::CrearMarcha() {
     lblCiclos = CrearDato(*rejilla, "lblCiclos", "Ciclo Actual :", "999999999");
     lblTiempo = CrearDato(*rejilla, "lblTiempo", "Tiempo :", "9999 min 59 s");
     lblVelocidad = CrearDato(*rejilla, "lblVelocidad", "Ciclos por segundo :", "9.999.999");
+    lblCota = CrearDato(*rejilla, "lblCota", "Mínimo demostrado :", "99.999.999");
+    lblHuecos = CrearDato(*rejilla, "lblHuecos", "Huecos :", "-");
     rejilla->setColumnStretch(0, 1);
     return marcha;
 }
@@ -137,6 +139,10 @@ void frmVentanaProceso::CrearPie(QVBoxLayout& caja) {
     imgCalcular = boton("imgCalcular", "Repetir", "Repetir la misma reducción", &LogicaVentanaProceso::Calcular);
     imgDetener = boton("imgDetener", "Detener", "Detener y quedarse con el mejor sistema encontrado",
                        &LogicaVentanaProceso::Detener);
+    imgMejorar = CrearBoton("imgMejorar", "Mejorar", "Buscar un sistema más pequeño con la misma garantía",
+                            [this] { Hacer([this] { logica.Mejorar(); }); });
+    imgHuecos = boton("imgHuecos", "Ver huecos", "Ver las apuestas condicionadas que el sistema deja sin cubrir",
+                      &LogicaVentanaProceso::VerHuecos);
     imgVerPorcentajes = boton("imgVerPorcentajes", "Ver Porcentajes", "Ver los porcentajes en un informe",
                               &LogicaVentanaProceso::VerPorcentajes);
     imgGarantias = CrearBoton("imgGarantias", "Garantías", "Garantías y porcentajes del sistema encontrado",
@@ -146,7 +152,8 @@ void frmVentanaProceso::CrearPie(QVBoxLayout& caja) {
                                  &LogicaVentanaProceso::CalculoDefinitivo);
     auto* pie = new QHBoxLayout;
     pie->setContentsMargins(0, Paso, 0, 0);
-    for (QPushButton* b : {imgCalcular, imgDetener, imgVerPorcentajes, imgGarantias}) pie->addWidget(b);
+    for (QPushButton* b : {imgCalcular, imgMejorar, imgDetener, imgVerPorcentajes, imgHuecos, imgGarantias})
+        pie->addWidget(b);
     pie->addStretch();
     pie->addWidget(imgVolver);
     pie->addWidget(imgCalculoDefinitivo);
@@ -192,11 +199,15 @@ void frmVentanaProceso::Pintar() {
 void frmVentanaProceso::PintarMarcha() {
     lblDirecto->setText(Q(logica.lblDirecto));
     lblCiclos->setText(Q(logica.lblCiclos));
-    lblTiempo->setText(TextoTiempo(logica.Segundos, logica.entorno.SeparadorDecimal));
+    lblTiempo->setText(
+        TextoTiempo(logica.Mejorando ? logica.SegundosMejora : logica.Segundos, logica.entorno.SeparadorDecimal));
     lblVelocidad->setText(
         Q(FormatoMiles(static_cast<int64_t>(std::round(logica.CiclosPorSegundo())), logica.entorno.SeparadorMiles)));
+    lblCota->setText(logica.lblCota.empty() ? Q("-") : Q(logica.lblCota));
+    lblHuecos->setText(logica.lblHuecos.empty() ? Q("-") : Q(logica.lblHuecos));
     lblEstado->setText(TextoEstado(logica));
-    const bool veloz = logica.Corriendo && !logica.detener && logica.CiclosPorSegundo() > CiclosQueSeVen;
+    const bool rapida = logica.Mejorando || logica.CiclosPorSegundo() > CiclosQueSeVen;
+    const bool veloz = logica.Corriendo && !logica.detener && rapida;
     lblProgressBar->setRange(0, veloz ? 0 : AnchoBarra);
     lblProgressBar->setValue(veloz ? 0 : static_cast<int>(std::clamp(logica.lblProgressBar, 0.0, 1.0) * AnchoBarra));
 }
@@ -206,6 +217,8 @@ void frmVentanaProceso::PintarBotones() {
     imgCalcular->setEnabled(logica.imgCalcular);
     imgVerPorcentajes->setEnabled(logica.imgVerPorcentajes);
     imgGarantias->setEnabled(logica.imgGarantias);
+    imgMejorar->setEnabled(logica.imgMejorar);
+    imgHuecos->setEnabled(logica.imgHuecos);
     imgVolver->setEnabled(logica.imgVolver);
     imgCalculoDefinitivo->setEnabled(logica.imgCalculoDefinitivo);
     imgDetener->setEnabled(logica.imgDetener);

@@ -44,11 +44,12 @@ class frmVentanaProceso final : public QDialog {
     bool corria = false; ///< as painted last
     QLabel *lblApuestasInicialesVP = nullptr, *lblApuestasCondicionadasVP = nullptr, *lblApuestasVP = nullptr;
     QLabel *lblDirecto = nullptr, *lblCiclos = nullptr, *lblTiempo = nullptr, *lblVelocidad = nullptr;
-    QLabel* lblEstado = nullptr;
+    QLabel *lblCota = nullptr, *lblHuecos = nullptr, *lblEstado = nullptr;
     QProgressBar* lblProgressBar = nullptr;
     QGroupBox* fraPorcentajes = nullptr;
     RejillaPorcentajes porcentajes;
     GraficoHallazgos* grafico = nullptr;
     QPushButton *imgCalcular = nullptr, *imgDetener = nullptr, *imgVerPorcentajes = nullptr, *imgGarantias = nullptr;
+    QPushButton *imgMejorar = nullptr, *imgHuecos = nullptr;
     QPushButton *imgVolver = nullptr, *imgCalculoDefinitivo = nullptr;
 };

@@ -33,22 +33,26 @@ TEST_F(RepartoLote, UnaLineaPorValorYAlFinalLasQuePasan) {
     c.SORTEOSANTERIORES.grupo[4] = {{1999, 1}, {2001, 1}, 0, 1, 1, {0, 0, 0, 0, 0, 1, 1}};
     struct Caso {
         Textos argumentos;
-        std::string salida;
+        std::string salida, avisos;
     };
     for (const Caso& caso : {
-             Caso{{"--filtro", "PARESIMPARES"}, "0\t0\n1\t0\n2\t3\n3\t4\n4\t0\n5\t0\n6\t0\nPasan: 3 de 7\n"},
+             Caso{{"--filtro", "PARESIMPARES"}, "0\t0\n1\t0\n2\t3\n3\t4\n4\t0\n5\t0\n6\t0\nPasan: 3 de 7\n", ""},
              {{"--filtro", "PARESIMPARES", "--importar", "a.txt"},
-              "0\t0\n1\t0\n2\t0\n3\t2\n4\t0\n5\t0\n6\t0\nPasan: 0 de 2\n"},
+              "0\t0\n1\t0\n2\t0\n3\t2\n4\t0\n5\t0\n6\t0\nPasan: 0 de 2\n",
+              "AVISO: La combinación importada no tiene reintegros, se le ha asignado a la combinación el REINTEGRO 1 "
+              "por "
+              "defecto.\n"},
              {{"--filtro", "SUMASPORTRIOS"},
               "Tres primeros\n6\t4\n7\t1\n8\t1\n9\t1\nTres últimos\n16\t1\n17\t1\n18\t0\n19\t1\n20\t4\nPasan: 7 de "
-              "7\n"},
-             {{"--filtro", "GRUPOS"}, "0\t7\nPasan: 7 de 7\n"},
-             {{"--filtro", "SORTEOSANTERIORES", "--sorteos", "sorteos.xml"}, "1\t7\nPasan: 7 de 7\n"},
+              "7\n",
+              ""},
+             {{"--filtro", "GRUPOS"}, "0\t7\nPasan: 7 de 7\n", ""},
+             {{"--filtro", "SORTEOSANTERIORES", "--sorteos", "sorteos.xml"}, "1\t7\nPasan: 7 de 7\n", ""},
          }) {
         SCOPED_TRACE(testing::PrintToString(caso.argumentos));
         const Resultado r = Ejecutar(caso.argumentos);
         EXPECT_EQ(r.Salida, caso.salida);
-        EXPECT_EQ(r.Errores, "");
+        EXPECT_EQ(r.Errores, caso.avisos);
         EXPECT_EQ(r.Estado, 0);
     }
     const std::string figuras = Ejecutar({"--filtro", "SEGUIDOS"}).Salida;

@@ -134,7 +134,9 @@ bool EnMarcha(QDialog& d) {
 }
 
 bool Parada(QDialog& d) {
-    return Habilitado(d, "imgCalcular") && Texto(d, "lblEstado") == "Terminado";
+    // A window over it may be the active one during a turn of its own work.
+    return d.objectName() == Q("frmVentanaProceso") && Habilitado(d, "imgCalcular") &&
+           Texto(d, "lblEstado") == "Terminado";
 }
 
 void NoSeCierra(QDialog& ventana) {

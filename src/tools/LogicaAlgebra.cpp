@@ -8,7 +8,7 @@
 #include "CuentaBytes.h"
 #include "Ficheros.h"
 #include "GuardarSistema.h"
-#include "Ocupado.h"
+#include "Mientras.h"
 #include "OperacionesSistemas.h"
 #include "TablasCSN.h"
 #include "modGeneral.h"
@@ -63,7 +63,7 @@ void LogicaAlgebra::cmdDesdeFichero(size_t i) {
 
 void LogicaAlgebra::Cargar(size_t i, const std::string& ruta) {
     if (Trabajando) return;
-    const Ocupado ocupado(Trabajando);
+    const Mientras ocupado(Trabajando);
     txtVentanaResultados.clear();
     SistemaCargado& s = Sistema[i];
     s = {};
@@ -103,7 +103,7 @@ bool LogicaAlgebra::imgCalcular() {
     if (Trabajando) return false;
     if (Sistema[0].N() == 0) return Fallo(entorno, "ERROR: NO ESTA CARGADO EL SISTEMA 1");
     if (optTipo != OrdenarSistema1 && Sistema[1].N() == 0) return Fallo(entorno, "ERROR: NO ESTA CARGADO EL SISTEMA 2");
-    const Ocupado ocupado(Trabajando), calculando(Calculando);
+    const Mientras ocupado(Trabajando), calculando(Calculando);
     detener = false;
     txtVentanaResultados = {"Calculando ..."};
     entorno.CederTurno();
@@ -182,7 +182,7 @@ bool LogicaAlgebra::imgGuardar() {
     if (NResultado == 0) return Fallo(entorno, "ERROR: NO SE PUEDE GUARDAR, EL SISTEMA RESULTANTE TIENE 0 APUESTAS");
     const std::string ruta = PedirRutaSistema("singuardar.TOM", entorno);
     if (ruta.empty()) return false;
-    const Ocupado ocupado(Trabajando);
+    const Mientras ocupado(Trabajando);
     std::memset(SistemaResultado.Fila(7), 0, static_cast<size_t>(NResultado));
     return GuardarSistema(ruta, Cabecera, SistemaResultado, sesion.trabajo, picVentanaEspera, entorno);
 }

@@ -6,7 +6,7 @@
 
 #include "Ficheros.h"
 #include "GuardarSistema.h"
-#include "Ocupado.h"
+#include "Mientras.h"
 #include "Registros.h"
 #include "modGeneral.h"
 #include "modImportarASCII.h"
@@ -51,7 +51,7 @@ void LogicaCoeficienteRentabilidad::cmdDesdeFichero() {
 
 bool LogicaCoeficienteRentabilidad::Cargar(const std::string& ruta) {
     if (Trabajando) return false;
-    const Ocupado ocupado(Trabajando);
+    const Mientras ocupado(Trabajando);
     VaciarLista();
     lblApuCargadas = "0";
     txtFicheroASCII = ruta;
@@ -97,7 +97,7 @@ bool LogicaCoeficienteRentabilidad::imgCalcular() {
         if (!SinBlancos(Textos(tabla), tabla, entorno)) return false;
     for (const TablaCR tabla : {TablaCR::Apostados, TablaCR::Reales})
         if (!SinErrores(Textos(tabla), tabla, entorno)) return false;
-    const Ocupado ocupado(Trabajando), calculando(Calculando);
+    const Mientras ocupado(Trabajando), calculando(Calculando);
     detener = false;
     VaciarLista();
     entorno.CederTurno();
@@ -165,7 +165,7 @@ bool LogicaCoeficienteRentabilidad::imgGrabarApuestasCR() {
     if (cuantas == 0)
         return Fallo(entorno, "ERROR: TIENE QUE SELECCIONAR ALGUN COEFICIENTE DE RENTABILIDAD CON APUESTAS, HAY 0 "
                               "SELECCIONADAS");
-    const Ocupado ocupado(Trabajando);
+    const Mientras ocupado(Trabajando);
     const std::string ruta =
         entorno.PedirGuardar({"Guardar Apuestas",
                               {{"Ficheros de Apuestas (*.TOM)", "*.TOM"}, {"Todos los archivos (*.*)", "*.*"}},

@@ -2,6 +2,8 @@
 
 #include <QVBoxLayout>
 
+#include <new>
+
 #include "AlVuelo.h"
 #include "FiltrosSencillos.h"
 #include "MarcoFiltro.h"
@@ -94,10 +96,13 @@ void PanelReparto::Actualizar() {
         lblPasan->setText(Q("Aún no hay apuestas: " + falta));
         return;
     }
-    if (!base_->aparte) {
-        base_->aparte = ApartarBase(peticion_.sesion);
-        lblPasan->setText(Q("Contando..."));
+    const auto sinMemoria = [this] { lblPasan->setText(Q("No hay memoria suficiente para contar")); };
+    try {
+        if (!base_->aparte) base_->aparte = ApartarBase(peticion_.sesion);
+    } catch (const std::bad_alloc&) {
+        return sinMemoria();
     }
+    if (reparto_.Apartados.empty()) lblPasan->setText(Q("Contando..."));
     trabajo_.Empezar(
         [this, base = base_, ahora = *contadas_, k = peticion_.k](Entorno& entorno,
                                                                   const TrabajoAparte::Publicar& publicar) {
@@ -110,7 +115,7 @@ void PanelReparto::Actualizar() {
             const int32_t juntas = PasanTambien(aparte, entorno, k, base->conOtras);
             publicar([this, reparto, juntas] { Mostrar(reparto, juntas); });
         },
-        [this] { lblPasan->setText(Q("No hay memoria suficiente para contar")); });
+        sinMemoria);
 }
 
 void PanelReparto::Mostrar(const Reparto& reparto, int32_t juntas) {

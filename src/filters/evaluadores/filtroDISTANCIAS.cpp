@@ -29,24 +29,41 @@ int32_t FiltrarDISTANCIAS(Sesion& sesion, Entorno& entorno) {
     return Barrer(sesion.trabajo, entorno, [&](const Tramo& tramo) { return NucleoDistancias(tramo, tablas); });
 }
 
-// Imported bets may stand in any order, so that a difference can be below 0.
-Apartados RepartirDISTANCIAS(Sesion& sesion, Entorno& entorno) {
-    constexpr int8_t menor = -NumeroMaximoBoleto;
-    constexpr size_t valores = 2 * NumeroMaximoBoleto + 1;
-    constexpr std::array<const char*, 6> nombres{"Distancia 1-2", "Distancia 2-3", "Distancia 3-4",
-                                                 "Distancia 4-5", "Distancia 5-6", "Distancia 1-6"};
-    const PorPosicion numero = NumeroDeCadaPosicion(sesion.trabajo);
+namespace {
+
+constexpr int8_t Menor = -NumeroMaximoBoleto; // imported bets may stand in any order
+constexpr size_t Valores = 2 * NumeroMaximoBoleto + 1;
+
+// The distances 2-1 and 3-2, 4-3 and 5-4, 6-5 and 5-1, each two together, the one that changes more
+// often in the low byte. That of the whole bet is the sum of the last two.
+std::array<CuentaPalabras, 3> ContarDistancias(EstadoTrabajo& trabajo, Entorno& entorno) {
+    const PorPosicion numero = NumeroDeCadaPosicion(trabajo);
     const FilasDeTramo<6> filas;
-    std::array<CuentaPalabras, 3> cuentas; // each of two distances together
-    BarrerContando(sesion.trabajo, entorno, [&](const Tramo& tramo) {
-        FilasDistancias(tramo, numero, menor, filas.Todas());
-        for (size_t c = 0; c < 3; ++c) NucleoContarBytes(tramo, filas[2 * c], filas[2 * c + 1], cuentas[c]);
+    std::array<CuentaPalabras, 3> cuentas;
+    BarrerContando(trabajo, entorno, [&](const Tramo& tramo) {
+        FilasDistancias(tramo, numero, Menor, filas.Todas());
+        NucleoContarBytes(tramo, filas[1], filas[0], cuentas[0]);
+        NucleoContarBytes(tramo, filas[3], filas[2], cuentas[1]);
+        NucleoContarBytes(tramo, filas[4], filas[5], cuentas[2]);
     });
-    Apartados apartados;
-    for (size_t k = 0; k < nombres.size(); ++k) {
-        const CuentaPalabras& cuenta = cuentas[k / 2];
-        const Cuentas suyas = k % 2 == 0 ? PorBaja(cuenta, valores) : PorAlta(cuenta, valores);
-        apartados.push_back(ApartadoRecortado(nombres[k], suyas, menor));
-    }
-    return apartados;
+    return cuentas;
+}
+
+Cuentas DeLaApuesta(const CuentaPalabras& ultimas) {
+    Cuentas cuentas(2 * Valores);
+    for (size_t baja = 0; baja < Valores; ++baja)
+        for (size_t alta = 0; alta < Valores; ++alta) cuentas[baja + alta].Sumar(ultimas.De(baja + 256 * alta));
+    return cuentas;
+}
+
+} // namespace
+
+Apartados RepartirDISTANCIAS(Sesion& sesion, Entorno& entorno) {
+    const auto cuentas = ContarDistancias(sesion.trabajo, entorno);
+    return {ApartadoRecortado("Distancia 1-2", PorAlta(cuentas[0], Valores), Menor),
+            ApartadoRecortado("Distancia 2-3", PorBaja(cuentas[0], Valores), Menor),
+            ApartadoRecortado("Distancia 3-4", PorAlta(cuentas[1], Valores), Menor),
+            ApartadoRecortado("Distancia 4-5", PorBaja(cuentas[1], Valores), Menor),
+            ApartadoRecortado("Distancia 5-6", PorBaja(cuentas[2], Valores), Menor),
+            ApartadoRecortado("Distancia 1-6", DeLaApuesta(cuentas[2]), 2 * Menor)};
 }

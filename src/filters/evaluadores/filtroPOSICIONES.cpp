@@ -22,12 +22,12 @@ Apartados RepartirPOSICIONES(Sesion& sesion, Entorno& entorno) {
     const EstadoTrabajo& trabajo = sesion.trabajo;
     std::array<CuentaPalabras, 3> cuentas; // each of two balls together
     BarrerContando(sesion.trabajo, entorno, [&](const Tramo& tramo) {
-        for (size_t c = 0; c < 3; ++c) NucleoContarBytes(tramo, tramo.fila[2 * c], tramo.fila[2 * c + 1], cuentas[c]);
+        for (size_t c = 0; c < 3; ++c) NucleoContarBytes(tramo, tramo.fila[2 * c + 1], tramo.fila[2 * c], cuentas[c]);
     });
     const size_t posiciones = static_cast<size_t>(trabajo.NumerosBase) + 1;
     Apartados apartados;
     for (size_t k = 0; k < 6; ++k) {
-        const Cuentas suyas = k % 2 == 0 ? PorBaja(cuentas[k / 2], posiciones) : PorAlta(cuentas[k / 2], posiciones);
+        const Cuentas suyas = k % 2 == 1 ? PorBaja(cuentas[k / 2], posiciones) : PorAlta(cuentas[k / 2], posiciones);
         ApartadoReparto bola = ApartadoRecortado("Bola " + std::to_string(k + 1), suyas);
         for (BarraReparto& barra : bola.Barras) {
             barra.Valor = trabajo.BaseNumeros[static_cast<size_t>(barra.Valor)];

@@ -89,7 +89,7 @@ struct alignas(64) TablasDistancias {
 };
 int32_t NucleoDistancias(const Tramo& tramo, const TablasDistancias& tablas);
 int32_t NucleoDistanciasEscalar(const Tramo& tramo, const TablasDistancias& tablas);
-/// The six differences, modulo 2^8, counted from `minimo`.
+/// The differences 2-1, 3-2, 4-3, 5-4, 6-5 and 5-1, modulo 2^8, counted from `minimo`.
 void FilasDistancias(const Tramo& tramo, const PorPosicion& numero, int8_t minimo, const Filas<6>& filas);
 void FilasDistanciasEscalar(const Tramo& tramo, const PorPosicion& numero, int8_t minimo, const Filas<6>& filas);
 

@@ -140,9 +140,11 @@ int32_t NucleoDistanciasEscalar(const Tramo& tramo, const TablasDistancias& t) {
 }
 
 void FilasDistanciasEscalar(const Tramo& tramo, const PorPosicion& numero, int8_t minimo, const Filas<6>& filas) {
-    for (size_t k = 0; k < 6; ++k)
+    for (size_t k = 0; k < 5; ++k)
         Escribir(
             tramo, numero, [&](const Seis& n) { return Distancia(n, k) - minimo; }, filas[k]);
+    Escribir(
+        tramo, numero, [&](const Seis& n) { return n[4] - n[0] - minimo; }, filas[5]);
 }
 
 int32_t NucleoSeguidosEscalar(const Tramo& tramo, const TablasSeguidos& t) {

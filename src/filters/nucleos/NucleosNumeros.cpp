@@ -151,7 +151,7 @@ struct DistanciasDesde {
     HWY_INLINE void Dar(const Tramo& tramo, int64_t i, V (&v)[6]) const {
         const Seis n(tramo, i, numero);
         for (int k = 0; k < 5; ++k) v[k] = hn::Sub(hn::Sub(n.v[k + 1], n.v[k]), minimo);
-        v[5] = hn::Sub(hn::Sub(n.v[5], n.v[0]), minimo);
+        v[5] = hn::Sub(hn::Sub(n.v[4], n.v[0]), minimo);
     }
 };
 

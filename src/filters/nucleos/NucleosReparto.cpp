@@ -77,7 +77,7 @@ class RecuentoPalabras {
             quedan = hn::AndNot(iguales, quedan);
         }
         if (hn::AllFalse(d, quedan)) return;
-        variados_ = 15;
+        variados_ = 3;
         ContarUnaAUna(bajas, altas, hn::IfThenElse(quedan, estado, hn::Set(d, ApuestaMuerta)));
     }
 

@@ -44,12 +44,13 @@ class CuentaPalabras {
 
   private:
     // Processors take counts for the same that are a multiple of 4096 bytes apart: those of one value are not.
-    static constexpr size_t Rechazo = 0x8080, Muerta = Valores, PorTurno = 0x10000 + 0x100;
+    static constexpr size_t Rechazo = 0x8080, Muerta = Valores, PorTurno = 0x10000 + 0x110;
 
     std::vector<int32_t> cuentas_;
 };
 
-/// Adds the bets by `baja` + 256 x `alta`, of one byte for each bet; a row that is null is all 0.
+/// Adds the bets by `baja` + 256 x `alta`, of one byte for each bet; a row that is null is all 0. The row that
+/// changes more often from bet to bet is best `baja`: then neighbours count side by side.
 void NucleoContarBytes(const Tramo& tramo, const uint8_t* baja, const uint8_t* alta, CuentaPalabras& cuenta);
 void NucleoContarBytesEscalar(const Tramo& tramo, const uint8_t* baja, const uint8_t* alta, CuentaPalabras& cuenta);
 

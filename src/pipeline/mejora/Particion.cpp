@@ -66,7 +66,7 @@ int64_t Particion::ConEsta(const Pieza& pieza) const {
     return pieza.coste + suma_[n_ - pieza.v][Presupuesto - pieza.m + 1];
 }
 
-// A fiftieth more bets than the best is made up for by half the work done; whatever has no system yet
+// An eighth more bets than the best is made up for by half the work done; whatever has no system yet
 // comes first where one could be of use.
 void Particion::ElegirPieza() {
     const auto mejor = static_cast<double>(suma_[n_][Presupuesto]);
@@ -76,7 +76,7 @@ void Particion::ElegirPieza() {
         if (pieza.coste <= pieza.cota || (pieza.cartera && pieza.cartera->Agotada())) continue;
         const bool nueva = pieza.coste >= SinSistema;
         const double exceso = nueva ? 0 : static_cast<double>(ConEsta(pieza)) / mejor - 1;
-        const double precio = static_cast<double>(pieza.trabajo) * std::exp2(std::min(50 * exceso, 500.0));
+        const double precio = static_cast<double>(pieza.trabajo) * std::exp2(std::min(8 * exceso, 500.0));
         if (actual_ != nullptr && precio >= menos) continue;
         actual_ = &pieza;
         menos = precio;

@@ -45,8 +45,9 @@ bool Cartera::Anotar(const Rama& rama) {
 // As much work goes into new symmetries as into those that stand.
 void Cartera::ElegirRama() {
     actual_ = nullptr;
-    const bool quedan = fallidas_ < MaximoFallidas;
-    if (quedan && (ramas_.size() < MinimoRamas || explorado_ <= trabajo_ / 2)) Explorar();
+    while (actual_ == nullptr && fallidas_ < MaximoFallidas &&
+           (ramas_.size() < MinimoRamas || explorado_ <= trabajo_ / 2))
+        Explorar();
     if (actual_ == nullptr && !ramas_.empty()) {
         actual_ = LaQueMerece();
         finTurno_ = actual_->trabajo + TrabajoPorTurno;

@@ -71,3 +71,13 @@ bool LogicaEstadisticas::cmdConsultar() {
     lblSorteosConsultados = std::to_string(ContarCoincidentes(SorteosCargados, consulta));
     return true;
 }
+
+std::string LogicaEstadisticas::TextoTabla() const {
+    if (Figuras.empty()) return "";
+    const std::string_view titulo = TituloEstadistica(optFiltro);
+    std::string tabla = std::string(NombreEstadistica(optFiltro)) + "\t";
+    tabla.append(titulo, titulo.rfind(' ') + 1);
+    for (const BarraEstadistica& figura : Figuras)
+        tabla += "\n" + figura.etiqueta + "\t" + std::to_string(figura.veces);
+    return tabla + "\n";
+}

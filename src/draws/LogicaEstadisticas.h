@@ -51,6 +51,8 @@ struct LogicaEstadisticas {
     void ElegirEstadistica(int indice);
     /// Runs the query; false when a field stopped it.
     bool cmdConsultar();
+    /// What the text shows as a table for a spreadsheet, headings first; empty with the text.
+    std::string TextoTabla() const;
 
     EstadoTrabajo& trabajo;
     Entorno& entorno;

@@ -57,6 +57,13 @@ bool LogicaVentanaProceso::VerGarantias() {
     return true;
 }
 
+std::string LogicaVentanaProceso::TextoTabla() const {
+    std::string tabla;
+    for (size_t n = 1; n < lblN.size(); ++n)
+        if (!lblN[n].empty()) tabla += std::to_string(n) + "\t" + lblN[n] + "\n";
+    return tabla.empty() ? tabla : "Número\tPorcentaje\n" + tabla;
+}
+
 void LogicaVentanaProceso::VerPorcentajes() {
     std::string ruta;
     if (EscribirInformePorcentajes(*this, ruta)) entorno.VerInforme(ruta);

@@ -93,6 +93,9 @@ struct LogicaVentanaProceso {
     /// `imgGarantias`: whether the window of guarantees is to open over this one; a box tells why not.
     bool VerGarantias();
 
+    /// The grid as a table for a spreadsheet; empty before a run.
+    std::string TextoTabla() const;
+
     /// Writes the grid to the analysis report and shows it.
     void VerPorcentajes();
 

@@ -143,12 +143,14 @@ bool LogicaMultiEscrutinioMultiFichero::imgEscrutar() {
     lblEstado = EstadoLibre;
     lblImportando = "0";
     txtInforme.clear();
+    Resumido = false;
     Escrutados.clear();
     bool bien = true;
     try {
         sorteos_ = ComoSorteos(SorteosFichero);
         for (size_t i = 1; bien && i <= lstFicheros.size(); ++i) bien = TratarFichero(i);
-        if (!chkTipoListadoPremios) txtInforme.insert(0, CabeceraResumen);
+        Resumido = !chkTipoListadoPremios;
+        if (Resumido) txtInforme.insert(0, CabeceraResumen);
     } catch (const std::bad_alloc&) {
         bien = Fallo(entorno, "ERROR AL ESCRUTAR LOS FICHEROS (" + DescripcionFallo(ENOMEM) + ")");
     }

@@ -32,6 +32,7 @@ struct LogicaMultiEscrutinioMultiFichero {
     std::string lblApuCargadas = "0";
     bool chkTipoListadoPremios = false; ///< detailed reports in place of the summary
     std::string txtInforme;             ///< LF line ends
+    bool Resumido = false;              ///< it is the summary: headings and a line a file
     std::string lblEstado = "Ventana de estado : -", lblImportando = "0";
     std::string lblEscrutando; ///< of the wait panel
     double lblProgressBar = 0; ///< 0 to 1

@@ -66,6 +66,12 @@ std::string LogicaSistemasPropios::txtPorcentajesNumeros() const {
     return texto;
 }
 
+std::string LogicaSistemasPropios::TextoTabla() const {
+    std::string tabla;
+    for (const int n : Origenes()) tabla += std::to_string(n) + "\t" + Porcentaje(n) + "\n";
+    return tabla.empty() ? tabla : "Número\tPorcentaje\n" + tabla;
+}
+
 void LogicaSistemasPropios::cmdDesdeFichero() {
     const std::string ruta = entorno.PedirAbrir(PeticionAbrirApuestas());
     if (!ruta.empty()) Cargar(ruta);

@@ -32,6 +32,8 @@ struct LogicaSistemasPropios {
     std::string Porcentaje(int numero) const;
     /// A line for each origin number, "07-12,34%".
     std::string txtPorcentajesNumeros() const;
+    /// The same as a table for a spreadsheet; empty without a system.
+    std::string TextoTabla() const;
     /// The numbers marked as destination, and those of the origin, ascending.
     std::vector<int> Destinos() const;
     std::vector<int> Origenes() const;

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 
+#include "Lista.h"
 #include "MarcoFiltro.h"
 #include "TextoQt.h"
 
@@ -14,11 +15,7 @@ frmAlazar::frmAlazar(EstadoTrabajo& trabajo, QWidget* padre) : QDialog(padre), l
     PonerCabecera(*caja, "Pronóstico Aleatorio", "Marca en el boleto números elegidos al azar.");
 
     auto* fila = new QHBoxLayout;
-    auto* lista = new QComboBox;
-    lista->setObjectName(Q("cboNumeros"));
-    lista->setAccessibleName(Q("Cantidad de números"));
-    lista->setToolTip(Q("Cuántos números se marcan"));
-    for (int n = 1; n <= trabajo.NumeroMaximo(); ++n) lista->addItem(QString::number(n));
+    QComboBox* lista = CrearLista("cboNumeros", "Cuántos números se marcan", Enteros(1, trabajo.NumeroMaximo()));
     lista->setCurrentIndex(logica.cboNumeros - 1);
     connect(lista, &QComboBox::currentIndexChanged, this, [this](int indice) { logica.cboNumeros = indice + 1; });
     auto* etiqueta = new QLabel(Q("Cantidad de números"));

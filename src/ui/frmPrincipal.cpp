@@ -7,7 +7,9 @@
 #include <QHBoxLayout>
 #include <QTreeWidget>
 
+#include "CopiarTabla.h"
 #include "DialogosFiltro.h"
+#include "Lista.h"
 #include "SoltarFicheros.h"
 #include "TextoQt.h"
 #include "TextosAlVuelo.h"
@@ -27,11 +29,8 @@ class SinRueda final : public QObject {
     bool eventFilter(QObject*, QEvent* evento) override { return evento->type() == QEvent::Wheel; }
 };
 
-QComboBox* CrearLista(QWidget* padre, const QString& nombre, const QString& accesible, const QStringList& textos) {
-    auto* lista = new QComboBox(padre);
-    lista->setObjectName(nombre);
-    lista->setAccessibleName(accesible);
-    lista->addItems(textos);
+QComboBox* CrearListaSinRueda(std::string_view nombre, std::string_view ayuda, const QStringList& textos) {
+    QComboBox* lista = CrearLista(nombre, ayuda, textos);
     lista->installEventFilter(new SinRueda(lista));
     return lista;
 }
@@ -83,9 +82,10 @@ QWidget* frmPrincipal::CrearJuego() {
     franja->setAutoFillBackground(true);
     QStringList juegos;
     for (const Juego& juego : Juegos) juegos << Q(juego.Nombre);
-    cboTipoJuego = CrearLista(picBanner2, Q("cboTipoJuego"), Q("Juego"), juegos);
-    cboTipoCombinacion = CrearLista(picBanner2, Q("cboTipoCombinacion"), Q("Modo de la base"),
-                                    {Q("Pronóstico Manual"), Q("Pronóstico Aleatorio"), Q("Pronóstico Desde Archivo")});
+    cboTipoJuego = CrearListaSinRueda("cboTipoJuego", "Juego", juegos);
+    cboTipoCombinacion =
+        CrearListaSinRueda("cboTipoCombinacion", "Modo de la base",
+                           {Q("Pronóstico Manual"), Q("Pronóstico Aleatorio"), Q("Pronóstico Desde Archivo")});
     txtFicheroASCII = new QLabel(picBanner2);
     txtFicheroASCII->setObjectName(Q("txtFicheroASCII"));
     auto* fila = new QHBoxLayout(picBanner2);
@@ -143,8 +143,8 @@ QWidget* frmPrincipal::CrearDigitos() {
     caja->setSpacing(4);
     lblTituloReintegros = new QLabel(picCuadroReintegros);
     lblTituloReintegros->setObjectName(Q("lblTituloReintegros"));
-    cboTipoReintegro = CrearLista(picCuadroReintegros, Q("cboTipoReintegro"), Q("Reparto de los dígitos"),
-                                  {Q("Al directo"), Q("Secuenciales"), Q("Aleatorios")});
+    cboTipoReintegro = CrearListaSinRueda("cboTipoReintegro", "Reparto de los dígitos",
+                                          {Q("Al directo"), Q("Secuenciales"), Q("Aleatorios")});
     chkReintegros = new QCheckBox(picCuadroReintegros);
     chkReintegros->setObjectName(Q("chkReintegros"));
     chkReintegros->setToolTip(Q("Las apuestas de un fichero llevan un séptimo campo"));
@@ -171,7 +171,7 @@ void frmPrincipal::CrearPortapapeles(QWidget* boleto) {
     addActions({copiar, pegar});
     boleto->addActions({copiar, pegar});
     boleto->setContextMenuPolicy(Qt::ActionsContextMenu);
-    connect(copiar, &QAction::triggered, this, [this] { QApplication::clipboard()->setText(Q(logica.Copiar())); });
+    connect(copiar, &QAction::triggered, this, [this] { AlPortapapeles(logica.Copiar()); });
     connect(pegar, &QAction::triggered, this, [this] {
         logica.Pegar(Utf8(QApplication::clipboard()->text()));
         Pintar();

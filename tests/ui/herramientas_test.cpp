@@ -106,6 +106,8 @@ TEST(Herramientas, SistemaPropioConSuOrden) {
     QApplication::sendEvent(&ventana, &soltar);
     QApplication::processEvents();
     EXPECT_EQ(Texto(ventana, "lblTitNumerosORIGEN"), "7 Números");
+    QTest::keyClick(Hijo<QWidget>(ventana, "txtPorcentajesNumeros"), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QApplication::clipboard()->text().startsWith(Q("Número\tPorcentaje\n1\t50 %\n2\t100 %\n")));
     for (const int n : {11, 12, 13, 14, 15, 16, 49}) Pulsar(ventana, "lblNumeroFINAL_" + std::to_string(n - 1));
     Pulsar(ventana, "chkElegirOrden");
     int posicion = 7; // the largest origin to the smallest destination
@@ -135,6 +137,10 @@ TEST(Herramientas, VisorBoletoABoletoYEnPdf) {
         EXPECT_EQ(Texto(ventana, "lblColumna_0"), "02");
         EXPECT_EQ(Texto(ventana, "lblReintegro_0"), juego == BONOLOTO ? "" : "02") << juego;
         Retratar(ventana, ("herramienta_visor_" + std::to_string(juego)).c_str());
+        ventana.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&ventana));
+        QTest::keyClick(&ventana, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_TRUE(QApplication::clipboard()->text().contains(Q("\n1\t02\t12\t17\t23\t31\t40\t")));
         Pulsar(ventana, "imgUltimo");
         EXPECT_FALSE(Hijo<QAbstractButton>(ventana, "imgAvanzar")->isEnabled());
         Escribir(ventana, "txtIrboleto", "2");

@@ -5,6 +5,7 @@
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextBlock>
 #include <QtTest/QTest>
 
 #include <cstdlib>
@@ -41,6 +42,14 @@ std::string Escrito(const QDialog& ventana, const std::string& texto) {
 
 std::string Portapapeles() {
     return Utf8(QApplication::clipboard()->text());
+}
+
+void CopiarLinea(const QDialog& ventana, const std::string& texto, int linea) {
+    auto* campo = Hijo<QPlainTextEdit>(ventana, texto);
+    QTextCursor cursor(campo->document()->findBlockByNumber(linea));
+    cursor.select(QTextCursor::LineUnderCursor);
+    campo->setTextCursor(cursor);
+    QTest::keyClick(campo, Qt::Key_C, Qt::ControlModifier);
 }
 
 void Soltar(QDialog& ventana, const Textos& rutas) {
@@ -110,6 +119,8 @@ TEST(VentanaMultiEstadistico, DeLosSorteosAlInforme) {
     EXPECT_NE(Escrito(ventana, "txtDatos").find("\nSorteos Escrutados    : 19\n"), std::string::npos);
     Pulsar(ventana, "imgCopiar");
     EXPECT_TRUE(Portapapeles().starts_with("Año\tSorteo\tDía\tNúmeros\t6\t5+C\t5\t4\t3\tImporte\n1991\t11\t"));
+    CopiarLinea(ventana, "txtDatos", 1);
+    EXPECT_TRUE(Portapapeles().starts_with("1991\t12\t")) << Portapapeles();
     Retratar(ventana, Q("multiescrutinio_estadistico"));
     Pulsar(ventana, "imgVerInforme");
     EXPECT_EQ(guion.Informes, Textos{guion.carpeta.Ruta("TOMBOLERA_ESCRUTINIO.txt")});
@@ -164,6 +175,8 @@ TEST(VentanaMultiFichero, DeLosFicherosAlResumenYAlDetalle) {
     Retratar(ventana, Q("multiescrutinio_multifichero"));
     Pulsar(ventana, "imgCopiar");
     EXPECT_TRUE(Portapapeles().starts_with("Fichero\tApuestas\tDE6\t")) << Portapapeles();
+    CopiarLinea(ventana, "txtInforme", 4);
+    EXPECT_TRUE(Portapapeles().starts_with("falta.TOM\t0\t")) << Portapapeles();
     Pulsar(ventana, "imgVerInformeResumenPremios");
     Hijo<QListWidget>(ventana, "lstFicheros")->setCurrentRow(3);
     Pulsar(ventana, "cmdDEL");

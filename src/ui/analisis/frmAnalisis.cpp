@@ -1,12 +1,10 @@
 #include "frmAnalisis.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QGroupBox>
-#include <QShortcut>
 
 #include <algorithm>
 
+#include "CopiarTabla.h"
 #include "MapaCalor.h"
 #include "MarcoFiltro.h"
 #include "TextoQt.h"
@@ -75,11 +73,11 @@ void frmAnalisis::CrearPie(QVBoxLayout& caja) {
                               [this] { logica.VerAnalisis(); }));
     pie->addWidget(CrearBoton("imgCopiar", "Copiar tabla",
                               "Copiar las cifras como una tabla, para una hoja de cálculo (Ctrl+C)",
-                              [this] { Copiar(); }));
+                              [this] { AlPortapapeles(logica.TextoTabla()); }));
     pie->addStretch();
     pie->addWidget(CrearBoton("imgVolver", "Cerrar", "Cerrar el análisis", [this] { close(); }));
     caja.addLayout(pie);
-    connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this, [this] { Copiar(); });
+    HabilitarCopia(*this, [this] { return logica.TextoTabla(); });
 }
 
 void frmAnalisis::PonerConsejos() {
@@ -87,10 +85,6 @@ void frmAnalisis::PonerConsejos() {
         numeros.lblN[n]->setToolTip(Q(logica.ConsejoNumero(static_cast<int>(n))));
     for (size_t d = 0; d < digitos.lblN.size(); ++d)
         if (digitos.lblN[d] != nullptr) digitos.lblN[d]->setToolTip(Q(logica.ConsejoDigito(static_cast<int>(d))));
-}
-
-void frmAnalisis::Copiar() const {
-    QApplication::clipboard()->setText(Q(logica.TextoTabla()));
 }
 
 void frmAnalisis::Pintar() {

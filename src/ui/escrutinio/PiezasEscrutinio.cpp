@@ -1,20 +1,8 @@
 #include "PiezasEscrutinio.h"
 
-#include <QApplication>
-#include <QClipboard>
-#include <QFontDatabase>
-
 #include "BarraProgreso.h"
 #include "MarcoFiltro.h"
 #include "TextoQt.h"
-
-QComboBox* CrearLista(std::string_view nombre, std::string_view ayuda) {
-    auto* lista = new QComboBox;
-    lista->setObjectName(Q(nombre));
-    lista->setAccessibleName(Q(ayuda));
-    lista->setToolTip(Q(ayuda));
-    return lista;
-}
 
 void CrearPieEscrutinio(QBoxLayout& caja, std::initializer_list<QPushButton*> ordenes, QPushButton* imgVolver) {
     auto* pie = new QHBoxLayout;
@@ -24,24 +12,6 @@ void CrearPieEscrutinio(QBoxLayout& caja, std::initializer_list<QPushButton*> or
     pie->addStretch();
     pie->addWidget(imgVolver);
     caja.addLayout(pie);
-}
-
-QPlainTextEdit* CrearTextoFijo(std::string_view nombre, std::string_view accesible) {
-    auto* texto = new QPlainTextEdit;
-    texto->setObjectName(Q(nombre));
-    texto->setAccessibleName(Q(accesible));
-    texto->setReadOnly(true);
-    texto->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    texto->setTabChangesFocus(true);
-    texto->setLineWrapMode(QPlainTextEdit::NoWrap);
-    texto->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    texto->setAcceptDrops(false); // a file that is dropped belongs to the window
-    texto->viewport()->setAcceptDrops(false);
-    return texto;
-}
-
-void PintarTextoFijo(QPlainTextEdit& texto, const std::string& nuevo) {
-    if (const QString q = Q(nuevo); texto.toPlainText() != q) texto.setPlainText(q);
 }
 
 QLabel* CrearCifra(std::string_view nombre, std::string_view accesible, std::string_view masAncho) {
@@ -78,8 +48,4 @@ void PintarPanelMarcha(const PanelMarcha& panel, const std::string& estado, bool
     panel.lblEstado->setText(Q(estado));
     PintarBarraProgreso(*panel.lblProgressBar, {.Visible = corre, .Fraccion = fraccion});
     panel.cmdStop->setEnabled(corre);
-}
-
-void CopiarComoTabla(const std::string& tabla) {
-    QApplication::clipboard()->setText(Q(tabla));
 }

@@ -1,11 +1,11 @@
 #include "frmCalculadoraPremios.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QGridLayout>
 #include <QVBoxLayout>
 
+#include "CopiarTabla.h"
 #include "FiltroTeclas.h"
+#include "Lista.h"
 #include "MarcoFiltro.h"
 #include "SoltarFicheros.h"
 #include "TextoQt.h"
@@ -97,10 +97,7 @@ void frmCalculadoraPremios::CrearSorteo(QBoxLayout& donde) {
     QGridLayout* rejilla = CrearCaja(donde, "SORTEO");
     frmPremiosSorteo = CajaDe(*rejilla, "frmPremiosSorteo");
     txtNumeroSorteo = CrearTexto("txtNumeroSorteo", "Número del sorteo en su año", "00000", logica.txtNumeroSorteo);
-    cboDia = new QComboBox;
-    cboDia->setObjectName(Q("cboDia"));
-    cboDia->setAccessibleName(Q("Día de la semana"));
-    cboDia->setToolTip(Q("Día de la semana"));
+    cboDia = CrearLista("cboDia", "Día de la semana");
     for (const char letra : LetrasDia) cboDia->addItem(QString(QLatin1Char(letra)));
     connect(cboDia, &QComboBox::activated, this, [this](int i) { logica.cboDia = i; });
     txtRecaudacion = CrearDato(Q("txtRecaudacion"), Q("Recaudación"), ImporteAncho);
@@ -171,7 +168,8 @@ void frmCalculadoraPremios::CrearPie(QVBoxLayout& caja) {
     pie->addWidget(boton("cmdGuardarPremios", "Guardar ...", "Guardar el cálculo en un fichero",
                          &LogicaCalculadoraPremios::GuardarPremiosXML));
     pie->addWidget(CrearBoton("cmdCopiar", "Copiar", "Copiar el cálculo como una tabla",
-                              [this] { QApplication::clipboard()->setText(Q(logica.Copiar())); }));
+                              [this] { AlPortapapeles(logica.Copiar()); }));
+    HabilitarCopia(*this, [this] { return logica.Copiar(); });
     pie->addStretch();
     imgVolver = CrearBoton("imgVolver", "Cerrar", "Cerrar la calculadora", [this] { close(); });
     pie->addWidget(imgVolver);

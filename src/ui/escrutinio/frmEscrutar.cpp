@@ -1,11 +1,11 @@
 #include "frmEscrutar.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QHeaderView>
 #include <QRandomGenerator>
 
 #include "CopiarTabla.h"
+#include "Lista.h"
 #include "MarcoFiltro.h"
 #include "PiezasEscrutinio.h"
 #include "Pintores.h"
@@ -223,7 +223,7 @@ void frmEscrutar::CrearPie(QVBoxLayout& caja) {
                         CrearBoton("imgCalculadoraPremios", "Calculadora de Premios", "Pasar los aciertos a euros",
                                    [this] { AbrirCalculadora(); }),
                         CrearBoton("cmdCopiar", "Copiar", "Copiar los resultados como una tabla",
-                                   [this] { CopiarComoTabla(logica.Copiar()); })},
+                                   [this] { AlPortapapeles(logica.Copiar()); })},
                        CrearBoton("imgVolver", "Cerrar", "Cerrar el escrutinio", [this] { close(); }));
 }
 

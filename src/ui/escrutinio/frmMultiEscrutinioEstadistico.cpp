@@ -1,11 +1,13 @@
 #include "frmMultiEscrutinioEstadistico.h"
 
+#include <QTextBlock>
+
 #include <array>
 
-#include "FilaIntervalo.h"
-#include "FiltroTeclas.h"
+#include "Lista.h"
 #include "MarcoFiltro.h"
 #include "SoltarFicheros.h"
+#include "TextoFijo.h"
 #include "TextoQt.h"
 
 namespace {
@@ -31,6 +33,15 @@ QWidget* CrearRotulos(const QPlainTextEdit& texto) {
         etiqueta->adjustSize();
     }
     return fila;
+}
+
+// The draw that a line of the report tells, "000012. 1991 ...", or -1.
+int SorteoDeLinea(const QPlainTextEdit& texto, int linea) {
+    constexpr int cifras = 6;
+    const QString contenido = texto.document()->findBlockByNumber(linea).text();
+    bool esNumero = false;
+    const int numero = contenido.left(cifras).toInt(&esNumero);
+    return esNumero && contenido.mid(cifras, 1) == Q(".") ? numero : -1;
 }
 
 } // namespace
@@ -108,40 +119,18 @@ void frmMultiEscrutinioEstadistico::CrearApuestas(QBoxLayout& columna) {
     rejilla->addLayout(fila, 0, 0);
 }
 
-QLineEdit* frmMultiEscrutinioEstadistico::CrearCampo(std::string_view nombre, std::string_view ayuda, int cifras,
-                                                     std::string& campo) {
-    QLineEdit* linea = CrearCampoNumero(
-        Q(nombre), Q(ayuda), [&campo](const std::string& texto) { campo = texto; }, [] {});
-    linea->setMaxLength(cifras);
-    return linea;
-}
-
 void frmMultiEscrutinioEstadistico::CrearConsulta(QBoxLayout& columna) {
     QGridLayout* rejilla = CrearCaja(columna, "CONSULTA");
-    txtTemporadaDESDE = CrearCampo("txtTemporadaDESDE", "Primera temporada", 4, logica.txtTemporadaDESDE);
-    txtTemporadaHASTA = CrearCampo("txtTemporadaHASTA", "Última temporada", 4, logica.txtTemporadaHASTA);
-    txtSorteoDESDE = CrearCampo("txtSorteoDESDE", "Primer sorteo de cada temporada", 3, logica.txtSorteoDESDE);
-    txtSorteoHASTA = CrearCampo("txtSorteoHASTA", "Último sorteo de cada temporada", 3, logica.txtSorteoHASTA);
-    cboDia = CrearLista("cboDia", "Día de la semana");
-    for (const char* dia : {"Todos", "Lunes", "Martes", "Miércoles", "Jueves", "Viernes", "Sábado"})
-        cboDia->addItem(Q(dia));
-    connect(cboDia, &QComboBox::activated, this, [this](int dia) { logica.cboDia = dia; });
-    CrearCabeceraIntervalos(*rejilla, Q("Desde"), Q("Hasta"));
-    rejilla->addWidget(new QLabel(Q("Temporada")), 1, 0);
-    rejilla->addWidget(txtTemporadaDESDE, 1, 1);
-    rejilla->addWidget(txtTemporadaHASTA, 1, 2);
-    rejilla->addWidget(new QLabel(Q("Sorteo")), 2, 0);
-    rejilla->addWidget(txtSorteoDESDE, 2, 1);
-    rejilla->addWidget(txtSorteoHASTA, 2, 2);
-    rejilla->addWidget(new QLabel(Q("Día")), 3, 0);
-    rejilla->addWidget(cboDia, 3, 1, 1, 2);
+    consulta = CrearRejillaConsulta(*rejilla, ConsultaDe(logica));
     rejilla->setColumnStretch(0, 1);
 }
 
 void frmMultiEscrutinioEstadistico::CrearResultados(QBoxLayout& donde) {
     QGridLayout* rejilla = CrearCaja(donde, "RESULTADOS");
     donde.setStretchFactor(rejilla->parentWidget(), 1);
-    txtDatos = CrearTextoFijo("txtDatos", "Resultado del escrutinio, sorteo a sorteo");
+    txtDatos = CrearTextoFijo(
+        "txtDatos", "Resultado del escrutinio, sorteo a sorteo", [this] { return Tabla(); },
+        [this](int linea) { return SorteoDeLinea(*txtDatos, linea); });
     txtDatos->setMinimumWidth(txtDatos->fontMetrics().horizontalAdvance(QLatin1Char('0')) * ColumnasVisibles);
     txtDatos->setMinimumHeight(FilasVisibles * txtDatos->fontMetrics().lineSpacing());
     rejilla->addWidget(CrearRotulos(*txtDatos), 0, 0);
@@ -151,7 +140,7 @@ void frmMultiEscrutinioEstadistico::CrearResultados(QBoxLayout& donde) {
 
 void frmMultiEscrutinioEstadistico::CrearPie(QBoxLayout& caja) {
     imgCopiar = CrearBoton("imgCopiar", "Copiar tabla", "Copiar los sorteos escrutados como una tabla",
-                           [this] { CopiarComoTabla(TablaGanado(logica.Ganado, logica.entorno)); });
+                           [this] { AlPortapapeles(Tabla()); });
     CrearPieEscrutinio(
         caja,
         {CrearBoton("cmdEscrutar", "Escrutar", "Escrutar las apuestas en los sorteos de la consulta",
@@ -160,6 +149,10 @@ void frmMultiEscrutinioEstadistico::CrearPie(QBoxLayout& caja) {
                     [this] { Hacer([this] { logica.imgVerInforme(); }); }),
          imgCopiar},
         CrearBoton("imgVolver", "Cerrar", "Cerrar el escrutinio", [this] { close(); }));
+}
+
+std::string frmMultiEscrutinioEstadistico::Tabla() const {
+    return logica.Ganado.empty() ? std::string() : TablaGanado(logica.Ganado, logica.entorno);
 }
 
 void frmMultiEscrutinioEstadistico::Hacer(const std::function<void()>& accion) {
@@ -181,11 +174,7 @@ void frmMultiEscrutinioEstadistico::Pintar() {
     lblTemporadaHASTA->setText(Q(logica.lblTemporadaHASTA));
     lblSorteoHASTA->setText(Q(logica.lblSorteoHASTA));
     PintarFilaFichero(fichero, logica.txtFicheroASCII, logica.lblApuCargadas);
-    PintarCampo(*txtTemporadaDESDE, logica.txtTemporadaDESDE);
-    PintarCampo(*txtTemporadaHASTA, logica.txtTemporadaHASTA);
-    PintarCampo(*txtSorteoDESDE, logica.txtSorteoDESDE);
-    PintarCampo(*txtSorteoHASTA, logica.txtSorteoHASTA);
-    cboDia->setCurrentIndex(logica.cboDia);
+    PintarRejillaConsulta(consulta, ConsultaDe(logica));
     imgCopiar->setEnabled(!logica.Ganado.empty());
     if (!logica.Ocupada()) PintarTextoFijo(*txtDatos, logica.txtDatos);
     PintarPanelMarcha(marcha,

@@ -4,12 +4,13 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QGridLayout>
-#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPointer>
 
 #include "FilaFichero.h"
 #include "LogicaMultiEscrutinioEstadistico.h"
 #include "PiezasEscrutinio.h"
+#include "RejillaConsulta.h"
 
 class frmMultiEscrutinioEstadistico final : public QDialog {
   public:
@@ -25,20 +26,20 @@ class frmMultiEscrutinioEstadistico final : public QDialog {
     void CrearSorteos(QBoxLayout& columna);
     void CrearApuestas(QBoxLayout& columna);
     void CrearConsulta(QBoxLayout& columna);
-    QLineEdit* CrearCampo(std::string_view nombre, std::string_view ayuda, int cifras, std::string& campo);
     void CrearResultados(QBoxLayout& donde);
     void CrearPie(QBoxLayout& caja);
+    /// The draws as a table for a spreadsheet; empty before a run.
+    std::string Tabla() const;
     void Hacer(const std::function<void()>& accion);
 
     LogicaMultiEscrutinioEstadistico logica;
     QWidget* cuerpo = nullptr; ///< all but the stop: disabled during a run
     QPointer<QWidget> focoAnterior;
-    QComboBox *cboTipoJuego = nullptr, *cboDia = nullptr;
+    QComboBox* cboTipoJuego = nullptr;
     QLabel *lblSorteosCargados = nullptr, *lblTemporadaDESDE = nullptr, *lblSorteoDESDE = nullptr;
     QLabel *lblTemporadaHASTA = nullptr, *lblSorteoHASTA = nullptr;
     FilaFichero fichero;
-    QLineEdit *txtTemporadaDESDE = nullptr, *txtTemporadaHASTA = nullptr;
-    QLineEdit *txtSorteoDESDE = nullptr, *txtSorteoHASTA = nullptr;
+    RejillaConsulta consulta;
     QPlainTextEdit* txtDatos = nullptr;
     QPushButton* imgCopiar = nullptr;
     PanelMarcha marcha;

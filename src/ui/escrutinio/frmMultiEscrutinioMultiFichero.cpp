@@ -4,6 +4,7 @@
 
 #include "MarcoFiltro.h"
 #include "SoltarFicheros.h"
+#include "TextoFijo.h"
 #include "TextoQt.h"
 
 namespace {
@@ -61,6 +62,7 @@ void frmMultiEscrutinioMultiFichero::CrearFicheros(QBoxLayout& donde) {
     lstFicheros->setAccessibleName(Q("Ficheros que se escrutan, en este orden"));
     lstFicheros->setAlternatingRowColors(true);
     lstFicheros->setUniformItemSizes(true);
+    HabilitarCopia(*lstFicheros);
     lstFicheros->setTextElideMode(Qt::ElideMiddle);
     lstFicheros->setFixedHeight(FilasFicheros * (lstFicheros->fontMetrics().height() + 4));
     connect(lstFicheros, &QListWidget::currentRowChanged, this, [this](int fila) { logica.Seleccionado = fila; });
@@ -95,7 +97,10 @@ void frmMultiEscrutinioMultiFichero::CrearResultados(QBoxLayout& donde) {
     lblEstado = new QLabel;
     lblEstado->setObjectName(Q("lblEstado"));
     lblImportando = CrearCifra("lblImportando", "Apuestas importadas", "13.983.816");
-    txtInforme = CrearTextoFijo("txtInforme", "Resultado del escrutinio, fichero a fichero");
+    // The summary has the table's lines; the detail has others.
+    txtInforme = CrearTextoFijo(
+        "txtInforme", "Resultado del escrutinio, fichero a fichero", [this] { return Tabla(); },
+        [this](int linea) { return logica.Resumido ? linea : -1; });
     txtInforme->setMinimumWidth(txtInforme->fontMetrics().horizontalAdvance(QLatin1Char('0')) * ColumnasResumen);
     txtInforme->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // its own wish is too tall
     txtInforme->setMinimumHeight(FilasInforme * txtInforme->fontMetrics().lineSpacing());
@@ -110,7 +115,7 @@ void frmMultiEscrutinioMultiFichero::CrearResultados(QBoxLayout& donde) {
 
 void frmMultiEscrutinioMultiFichero::CrearPie(QBoxLayout& caja) {
     imgCopiar = CrearBoton("imgCopiar", "Copiar tabla", "Copiar los ficheros y sus aciertos como una tabla",
-                           [this] { CopiarComoTabla(TablaEscrutados(logica.Escrutados)); });
+                           [this] { AlPortapapeles(Tabla()); });
     CrearPieEscrutinio(caja,
                        {CrearBoton("imgEscrutar", "Escrutar", "Escrutar todos los ficheros de la lista",
                                    [this] { Hacer([this] { logica.imgEscrutar(); }); }),
@@ -118,6 +123,10 @@ void frmMultiEscrutinioMultiFichero::CrearPie(QBoxLayout& caja) {
                                    [this] { Hacer([this] { logica.imgVerInformeResumenPremios(); }); }),
                         imgCopiar},
                        CrearBoton("imgVolver", "Volver", "Cerrar el escrutinio", [this] { close(); }));
+}
+
+std::string frmMultiEscrutinioMultiFichero::Tabla() const {
+    return logica.Escrutados.empty() ? std::string() : TablaEscrutados(logica.Escrutados);
 }
 
 void frmMultiEscrutinioMultiFichero::Hacer(const std::function<void()>& accion) {

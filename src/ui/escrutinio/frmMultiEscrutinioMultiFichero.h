@@ -27,6 +27,8 @@ class frmMultiEscrutinioMultiFichero final : public QDialog {
     void CrearFicheros(QBoxLayout& donde);
     void CrearResultados(QBoxLayout& donde);
     void CrearPie(QBoxLayout& caja);
+    /// The files as a table for a spreadsheet; empty before a run.
+    std::string Tabla() const;
     void Hacer(const std::function<void()>& accion);
     void PintarFicheros();
 

@@ -4,11 +4,11 @@
 #include <QTextBlock>
 #include <QWindow>
 
-#include "FilaIntervalo.h"
 #include "FiltroTeclas.h"
 #include "ListaJuego.h"
 #include "MarcoFiltro.h"
 #include "SoltarFicheros.h"
+#include "TextoFijo.h"
 #include "TextoQt.h"
 #include "modGeneral.h"
 
@@ -133,42 +133,18 @@ void frmEstadisticas::CrearResumen(QGridLayout& rejilla) {
     rejilla.addLayout(fila, 1, 0);
 }
 
-QLineEdit* frmEstadisticas::CrearCampo(const char* nombre, const char* ayuda, int cifras, std::string& campo) {
-    QLineEdit* linea = CrearCampoNumero(
-        Q(nombre), Q(ayuda), [&campo](const std::string& texto) { campo = texto; }, [] {});
-    linea->setMaxLength(cifras);
-    InstalarIntro(*linea, [this](const std::string&) { cmdConsultar->click(); });
-    return linea;
-}
-
 void frmEstadisticas::CrearConsultas(QBoxLayout& columna) {
     QGridLayout* rejilla = CrearCaja(columna, "CONSULTA");
     fraConsultas = static_cast<QGroupBox*>(rejilla->parentWidget());
     fraConsultas->setObjectName(Q("fraConsultas"));
-    txtTemporadaDESDE = CrearCampo("txtTemporadaDESDE", "Primera temporada", 4, logica.txtTemporadaDESDE);
-    txtTemporadaHASTA = CrearCampo("txtTemporadaHASTA", "Última temporada", 4, logica.txtTemporadaHASTA);
-    txtSorteoDESDE = CrearCampo("txtSorteoDESDE", "Primer sorteo de cada temporada", 3, logica.txtSorteoDESDE);
-    txtSorteoHASTA = CrearCampo("txtSorteoHASTA", "Último sorteo de cada temporada", 3, logica.txtSorteoHASTA);
-    cboDia = new QComboBox;
-    cboDia->setObjectName(Q("cboDia"));
-    cboDia->setAccessibleName(Q("Día de la semana"));
-    for (const char* dia : {"Todos", "Lunes", "Martes", "Miércoles", "Jueves", "Viernes", "Sábado"})
-        cboDia->addItem(Q(dia));
-    connect(cboDia, &QComboBox::activated, this, [this](int dia) { logica.cboDia = dia; });
+    consulta = CrearRejillaConsulta(*rejilla, ConsultaDe(logica));
+    for (QLineEdit* campo : consulta.campos)
+        InstalarIntro(*campo, [this](const std::string&) { cmdConsultar->click(); });
     cmdConsultar = CrearBoton("cmdConsultar", "Consultar", "Calcular la estadística de los sorteos pedidos (Intro)",
                               [this] { Hacer([this] { logica.cmdConsultar(); }); });
     cmdConsultar->setDefault(true);
     lblSorteosConsultados = CrearDato("lblSorteosConsultados", Q("13.983.816"));
     lblSorteosConsultados->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    CrearCabeceraIntervalos(*rejilla, Q("Desde"), Q("Hasta"));
-    rejilla->addWidget(new QLabel(Q("Temporada")), 1, 0);
-    rejilla->addWidget(txtTemporadaDESDE, 1, 1);
-    rejilla->addWidget(txtTemporadaHASTA, 1, 2);
-    rejilla->addWidget(new QLabel(Q("Sorteo")), 2, 0);
-    rejilla->addWidget(txtSorteoDESDE, 2, 1);
-    rejilla->addWidget(txtSorteoHASTA, 2, 2);
-    rejilla->addWidget(new QLabel(Q("Día")), 3, 0);
-    rejilla->addWidget(cboDia, 3, 1, 1, 2);
     rejilla->addWidget(cmdConsultar, 4, 0, 1, 3);
     auto* consultados = new QHBoxLayout;
     consultados->addWidget(new QLabel(Q("Sorteos consultados:")), 1);
@@ -199,14 +175,7 @@ void frmEstadisticas::CrearDatos(QBoxLayout& fila) {
     lblDatos = new QLabel;
     lblDatos->setObjectName(Q("lblDatos"));
     lblDatos->setFont(fija);
-    txtDatos = new QPlainTextEdit;
-    txtDatos->setObjectName(Q("txtDatos"));
-    txtDatos->setAccessibleName(Q("Texto de la estadística"));
-    txtDatos->setReadOnly(true);
-    txtDatos->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    txtDatos->setTabChangesFocus(true);
-    txtDatos->setLineWrapMode(QPlainTextEdit::NoWrap);
-    txtDatos->setFont(fija);
+    txtDatos = CrearTextoFijo("txtDatos", "Texto de la estadística", [this] { return logica.TextoTabla(); });
     int ancho = 0;
     for (int i = 0; i < NEstadisticas; ++i)
         ancho = std::max(ancho, QFontMetrics(fija).horizontalAdvance(Q(TituloEstadistica(i))));
@@ -254,11 +223,7 @@ void frmEstadisticas::Pintar() {
         w->setEnabled(libre);
     fraDatos->setEnabled(!logica.Actualizando);
     PintarFicheros();
-    PintarCampo(*txtTemporadaDESDE, logica.txtTemporadaDESDE);
-    PintarCampo(*txtTemporadaHASTA, logica.txtTemporadaHASTA);
-    PintarCampo(*txtSorteoDESDE, logica.txtSorteoDESDE);
-    PintarCampo(*txtSorteoHASTA, logica.txtSorteoHASTA);
-    cboDia->setCurrentIndex(logica.cboDia);
+    PintarRejillaConsulta(consulta, ConsultaDe(logica));
     for (int i = 0; i < NEstadisticas; ++i) {
         optFiltro[static_cast<size_t>(i)]->setChecked(i == logica.optFiltro);
         optFiltro[static_cast<size_t>(i)]->setEnabled(logica.Ofrece(i));
@@ -281,7 +246,7 @@ void frmEstadisticas::PintarFicheros() {
 void frmEstadisticas::PintarDatos() {
     lblSorteosConsultados->setText(Agrupado(logica.lblSorteosConsultados, logica.entorno.SeparadorMiles));
     lblDatos->setText(Q(logica.lblDatos));
-    if (const QString texto = Q(logica.txtDatos); txtDatos->toPlainText() != texto) txtDatos->setPlainText(texto);
+    PintarTextoFijo(*txtDatos, logica.txtDatos);
     grafico->Poner(DatosGrafico(logica));
 }
 

@@ -17,6 +17,7 @@
 #include "LogicaEstadisticas.h"
 #include "PanelContadores.h"
 #include "Pintores.h"
+#include "RejillaConsulta.h"
 
 class QBoxLayout;
 class QGridLayout;
@@ -39,7 +40,6 @@ class frmEstadisticas final : public QDialog {
     void CrearEstadisticas(QBoxLayout& columna);
     void CrearDatos(QBoxLayout& fila);
     void CrearPie(QVBoxLayout& caja);
-    QLineEdit* CrearCampo(const char* nombre, const char* ayuda, int cifras, std::string& campo);
     /// Runs an action of the logic and paints what it has changed, in the main window too.
     void Hacer(const std::function<void()>& accion);
     void SenalarLinea(size_t i);
@@ -49,15 +49,14 @@ class frmEstadisticas final : public QDialog {
 
     LogicaEstadisticas logica;
     QGroupBox *fraFicheros = nullptr, *fraConsultas = nullptr, *fraEstadisticas = nullptr, *fraDatos = nullptr;
-    QComboBox *cboTipoJuego = nullptr, *cboDia = nullptr;
+    QComboBox* cboTipoJuego = nullptr;
     QLineEdit* txtFicheroASCII = nullptr;
     QPushButton *cmdAbrirEstadisticas = nullptr, *cmdActualizar = nullptr, *imgINIFichero = nullptr;
     QPushButton *cmdConsultar = nullptr, *imgVolver = nullptr;
     QLabel *lblSorteosCargados = nullptr, *lblSorteosConsultados = nullptr, *lblDatos = nullptr;
     QLabel *lblTemporadaDESDE = nullptr, *lblSorteoDESDE = nullptr;
     QLabel *lblTemporadaHASTA = nullptr, *lblSorteoHASTA = nullptr;
-    QLineEdit *txtTemporadaDESDE = nullptr, *txtTemporadaHASTA = nullptr;
-    QLineEdit *txtSorteoDESDE = nullptr, *txtSorteoHASTA = nullptr;
+    RejillaConsulta consulta;
     std::array<QRadioButton*, NEstadisticas> optFiltro{};
     QPlainTextEdit* txtDatos = nullptr;
     GraficoBarras* grafico = nullptr;

@@ -1,5 +1,6 @@
 #include "frmFiltroCR.h"
 
+#include "CopiarTabla.h"
 #include "ListaCR.h"
 #include "PanelReparto.h"
 #include "TextoQt.h"
@@ -14,8 +15,8 @@ frmFiltroCR::frmFiltroCR(Sesion& sesion, Entorno& entorno, QWidget* padre) : QDi
     auto* columnas = new QHBoxLayout(controles);
     columnas->setContentsMargins(0, 0, 0, 0);
     columnas->setSpacing(2 * Paso);
-    txtPorcentajesApostados = CrearTabla(*columnas, TablaCR::Apostados, "PROBABILIDAD APOSTADA (%)", "Apostados");
-    txtPorcentajesReales = CrearTabla(*columnas, TablaCR::Reales, "PROBABILIDAD REAL (%)", "Reales");
+    txtPorcentajesApostados = CrearTablaPorcentajes(*columnas, logica, TablaCR::Apostados, [this] { Pintar(); });
+    txtPorcentajesReales = CrearTablaPorcentajes(*columnas, logica, TablaCR::Reales, [this] { Pintar(); });
     CrearCoeficientes(*columnas);
     PonerReparto(marco, *marco.contenido,
                  {.k = kCOEFICIENTERENTABILIDAD,
@@ -35,17 +36,6 @@ frmFiltroCR::frmFiltroCR(Sesion& sesion, Entorno& entorno, QWidget* padre) : QDi
     Pintar();
 }
 
-CamposPorcentajes frmFiltroCR::CrearTabla(QBoxLayout& donde, TablaCR tabla, const std::string& titulo,
-                                          const std::string& sufijo) {
-    return CrearTablaPorcentajes(donde, {titulo, sufijo,
-                                         [this, tabla](size_t i, const std::string& texto) {
-                                             logica.CambiarPorcentaje(tabla, i, texto), Pintar();
-                                         },
-                                         [this, tabla] { logica.imgINIPorcentajes(tabla), Pintar(); },
-                                         [this, tabla] { logica.imgAbrirPorcentajes(tabla), Pintar(); },
-                                         [this, tabla] { logica.imgGuardarPorcentajes(tabla), Pintar(); }});
-}
-
 void frmFiltroCR::CrearCoeficientes(QBoxLayout& donde) {
     auto* caja = new QWidget;
     auto* columna = new QVBoxLayout(caja);
@@ -53,6 +43,7 @@ void frmFiltroCR::CrearCoeficientes(QBoxLayout& donde) {
     columna->setSpacing(Paso);
     lstCR = CrearListaCR([this](size_t i) { return logica.TextoItem(i); },
                          [this](size_t i, bool elegido) { logica.ElegirCR(i, elegido), Pintar(); });
+    HabilitarCopia(*lstCR);
     imgCalcular = CrearBoton("imgCalcular", "Calcular", "Comprobar los porcentajes", [this] { Calcular(); });
     columna->addWidget(new QLabel(Q("COEFICIENTES")));
     columna->addWidget(lstCR, 1);

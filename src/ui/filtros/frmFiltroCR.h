@@ -16,9 +16,6 @@ class frmFiltroCR final : public QDialog {
 
   private:
     void Pintar();
-    /// `sufijo` ends the names of the table's controls.
-    CamposPorcentajes CrearTabla(QBoxLayout& donde, TablaCR tabla, const std::string& titulo,
-                                 const std::string& sufijo);
     void CrearCoeficientes(QBoxLayout& donde);
     void Calcular();
 

@@ -1,5 +1,6 @@
 #include "frmFiltroGRUPOSENTRELIMITES.h"
 
+#include "Lista.h"
 #include "PanelReparto.h"
 #include "TextoQt.h"
 
@@ -33,11 +34,7 @@ void frmFiltroGRUPOSENTRELIMITES::CrearLimites() {
 }
 
 QComboBox* frmFiltroGRUPOSENTRELIMITES::CrearLimite(std::string_view nombre, std::string_view ayuda, Elegir elegir) {
-    auto* lista = new QComboBox;
-    lista->setObjectName(Q(nombre));
-    lista->setToolTip(Q(ayuda));
-    lista->setAccessibleName(Q(ayuda));
-    for (int i = 0; i <= RegistroGRUPOSENTRELIMITES::Grupos; ++i) lista->addItem(QString::number(i));
+    QComboBox* lista = CrearLista(nombre, ayuda, Enteros(0, RegistroGRUPOSENTRELIMITES::Grupos));
     connect(lista, &QComboBox::currentIndexChanged, this, [this, elegir](int item) {
         (logica.*elegir)(item);
         Pintar();

@@ -2,6 +2,7 @@
 
 #include "FilaAciertos.h"
 #include "FiltroTeclas.h"
+#include "Lista.h"
 #include "PanelReparto.h"
 #include "Pintores.h"
 #include "TablaTiempos.h"
@@ -19,12 +20,6 @@ QLabel* CrearRotulo(const char* nombre, const char* muestra) {
     rotulo->setFont(letra);
     rotulo->setMinimumWidth(QFontMetrics(letra).horizontalAdvance(Q(muestra)));
     return rotulo;
-}
-
-QStringList Enteros(int primero, int ultimo) {
-    QStringList textos;
-    for (int i = primero; i <= ultimo; ++i) textos << QString::number(i);
-    return textos;
 }
 
 // Labels and controls in one row, at their own widths.
@@ -107,10 +102,7 @@ void frmFiltroSORTEOSANTERIORES::CrearOrdenes() {
 // The items stand for consecutive values. They are there before anybody hears of a choice.
 QComboBox* frmFiltroSORTEOSANTERIORES::CrearLista(const char* nombre, const char* ayuda, int Logica::*campo,
                                                   int primero, const QStringList& items) {
-    auto* caja = new QComboBox;
-    caja->setObjectName(Q(nombre));
-    caja->setToolTip(Q(ayuda));
-    caja->setAccessibleName(Q(ayuda));
+    QComboBox* caja = ::CrearLista(nombre, ayuda);
     for (const QString& item : items) caja->addItem(item, primero + caja->count());
     caja->setMaxVisibleItems(20);
     connect(caja, &QComboBox::currentIndexChanged, this, [this, caja, campo](int) {

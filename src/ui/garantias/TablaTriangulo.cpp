@@ -1,10 +1,8 @@
 #include "TablaTriangulo.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QHeaderView>
-#include <QShortcut>
 
+#include "CopiarTabla.h"
 #include "TextoQt.h"
 
 namespace {
@@ -64,7 +62,7 @@ void AjustarMedidas(QTableWidget& tabla) {
 
 } // namespace
 
-QTableWidget* CrearTablaTriangulo(const LogicaGarantias& logica) {
+QTableWidget* CrearTablaTriangulo() {
     auto* tabla = new QTableWidget(Clases, ColumnaDe6 + Clases);
     tabla->setObjectName(Q("tablaGarantias"));
     tabla->setAccessibleName(Q("Resultados por clase y nivel de aciertos"));
@@ -80,8 +78,7 @@ QTableWidget* CrearTablaTriangulo(const LogicaGarantias& logica) {
     tabla->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     CrearCeldas(*tabla);
     AjustarMedidas(*tabla);
-    auto* copiar = new QShortcut(QKeySequence::Copy, tabla, nullptr, nullptr, Qt::WidgetShortcut);
-    QObject::connect(copiar, &QShortcut::activated, tabla, [&logica] { CopiarTablaTriangulo(logica); });
+    HabilitarCopia(*tabla);
     return tabla;
 }
 
@@ -95,8 +92,4 @@ void PintarTablaTriangulo(QTableWidget& tabla, const LogicaGarantias& logica) {
         PonerTexto(tabla, Fila(c), ColumnaPorcentajes, resultados.lblPor[c]);
         for (int h = 0; h <= c; ++h) PonerTexto(tabla, Fila(c), Columna(h), resultados.lblde[c][h]);
     }
-}
-
-void CopiarTablaTriangulo(const LogicaGarantias& logica) {
-    QApplication::clipboard()->setText(Q(logica.resultados.TextoTabla(logica.Visibles())));
 }

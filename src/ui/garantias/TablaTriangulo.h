@@ -5,10 +5,7 @@
 
 #include "LogicaGarantias.h"
 
-/// An empty table as large as its content at most needs. Ctrl+C copies what shows, for a spreadsheet.
-QTableWidget* CrearTablaTriangulo(const LogicaGarantias& logica);
+/// An empty table as large as its content at most needs.
+QTableWidget* CrearTablaTriangulo();
 
 void PintarTablaTriangulo(QTableWidget& tabla, const LogicaGarantias& logica);
-
-/// Puts the visible part on the clipboard.
-void CopiarTablaTriangulo(const LogicaGarantias& logica);

@@ -1,34 +1,18 @@
 #include "frmGarantiasTOTAL.h"
 
-#include <QFontDatabase>
 #include <QVBoxLayout>
 
 #include <algorithm>
 
+#include "Lista.h"
 #include "MarcoFiltro.h"
 #include "TablaTriangulo.h"
+#include "TextoFijo.h"
 #include "TextoQt.h"
 
 namespace {
 
 constexpr int AnchoBarra = 1000, LineasResumen = 7;
-
-QPlainTextEdit* CrearTexto(std::string_view nombre, std::string_view ayuda) {
-    auto* texto = new QPlainTextEdit;
-    texto->setObjectName(Q(nombre));
-    texto->setAccessibleName(Q(ayuda));
-    texto->setReadOnly(true);
-    texto->setTabChangesFocus(true);
-    texto->setLineWrapMode(QPlainTextEdit::NoWrap);
-    texto->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    return texto;
-}
-
-// Only what has changed, so that a selection for copying stays.
-void PintarTexto(QPlainTextEdit& campo, const std::string& texto) {
-    const QString nuevo = Q(texto).remove(QLatin1Char('\r'));
-    if (campo.toPlainText() != nuevo) campo.setPlainText(nuevo);
-}
 
 } // namespace
 
@@ -81,9 +65,7 @@ void frmGarantiasTOTAL::CrearOpciones(QVBoxLayout& caja) {
 }
 
 void frmGarantiasTOTAL::CrearAciertos(QGridLayout& rejilla) {
-    cboTipoGarantias = new QComboBox;
-    cboTipoGarantias->setObjectName(Q("cboTipoGarantias"));
-    cboTipoGarantias->setAccessibleName(Q("Números del sorteo que se aciertan en la base"));
+    cboTipoGarantias = CrearLista("cboTipoGarantias", "Números del sorteo que se aciertan en la base");
     cboTipoGarantias->setToolTip(Q("Cuántos números del sorteo están entre los de la base"));
     for (int k = TodasLasGarantias; k <= SeisAciertos; ++k)
         cboTipoGarantias->addItem(Q(LogicaGarantias::TextoAciertos(k)));
@@ -105,7 +87,7 @@ void frmGarantiasTOTAL::CrearOrdenes(QVBoxLayout& caja) {
         CrearBoton("imgVerInformeTabulado", "Ver informe", "Ver informe de garantías en el Bloc de Notas",
                    [this] { Hacer([this] { logica.InformeGarantias(1); }); });
     cmdCopiarTabla = CrearBoton("cmdCopiarTabla", "Copiar tabla", "Copiar la tabla para pegarla en una hoja de cálculo",
-                                [this] { CopiarTablaTriangulo(logica); });
+                                [this] { AlPortapapeles(logica.resultados.TextoTabla(logica.Visibles())); });
     auto* fila = new QHBoxLayout;
     fila->setSpacing(Paso);
     fila->addWidget(imgCalcularGarantias);
@@ -121,8 +103,8 @@ QWidget* frmGarantiasTOTAL::CrearResultados() {
     auto* dentro = new QVBoxLayout(panel);
     dentro->setContentsMargins(0, 0, 0, 0);
     dentro->setSpacing(Paso);
-    tabla = CrearTablaTriangulo(logica);
-    txtResumen = CrearTexto("txtResumen", "Resumen de garantías y porcentajes");
+    tabla = CrearTablaTriangulo();
+    txtResumen = CrearTextoFijo("txtResumen", "Resumen de garantías y porcentajes");
     txtResumen->setMinimumHeight((LineasResumen + 1) * txtResumen->fontMetrics().lineSpacing() + 2 * Paso);
     dentro->addWidget(tabla);
     dentro->addWidget(txtResumen, 1);
@@ -136,7 +118,7 @@ QWidget* frmGarantiasTOTAL::CrearExtendidas() {
     dentro->setSpacing(Paso);
     dentro->addWidget(new QLabel(Q("«x si y»: de todos los grupos de y números de la base, la parte en la que alguna "
                                    "apuesta lleva al menos x de ellos.")));
-    txtMiniGarantias = CrearTexto("txtMiniGarantias", "Garantías extendidas");
+    txtMiniGarantias = CrearTextoFijo("txtMiniGarantias", "Garantías extendidas");
     dentro->addWidget(txtMiniGarantias, 1);
     cmdCerrarpicMiniGarantias =
         CrearBoton("cmdCerrarpicMiniGarantias", "Volver a la tabla", "Cerrar las garantías extendidas",
@@ -180,8 +162,8 @@ void frmGarantiasTOTAL::reject() {
 void frmGarantiasTOTAL::Pintar() {
     PintarOpciones();
     PintarTablaTriangulo(*tabla, logica);
-    PintarTexto(*txtResumen, logica.resultados.txtResumen);
-    PintarTexto(*txtMiniGarantias, logica.txtMiniGarantias);
+    PintarTextoFijo(*txtResumen, logica.resultados.txtResumen);
+    PintarTextoFijo(*txtMiniGarantias, logica.txtMiniGarantias);
     paneles->setCurrentIndex(logica.picVisorMiniGarantias ? 1 : 0);
     PintarAvance();
 }

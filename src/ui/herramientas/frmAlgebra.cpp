@@ -1,11 +1,11 @@
 #include "frmAlgebra.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QFileInfo>
 
+#include "Lista.h"
 #include "MarcoFiltro.h"
 #include "SoltarFicheros.h"
+#include "TextoFijo.h"
 #include "TextoQt.h"
 
 namespace {
@@ -136,9 +136,7 @@ void frmAlgebra::CrearTipos(QBoxLayout& donde) {
         fila->addWidget(optTipo[i]);
         donde.addLayout(fila);
         if (tipo != OrdenarSistema1) continue;
-        cboTipoOrdenacion = new QComboBox;
-        cboTipoOrdenacion->setObjectName(Q("cboTipoOrdenacion"));
-        cboTipoOrdenacion->setAccessibleName(Q("Sentido de la ordenación"));
+        cboTipoOrdenacion = CrearLista("cboTipoOrdenacion", "Sentido de la ordenación");
         for (int orden = 0; orden < 2; ++orden) cboTipoOrdenacion->addItem(Q(LogicaAlgebra::TextoOrdenacion(orden)));
         connect(cboTipoOrdenacion, &QComboBox::activated, this,
                 [this](int orden) { logica.cboTipoOrdenacion = orden, Pintar(); });
@@ -150,11 +148,8 @@ void frmAlgebra::CrearTipos(QBoxLayout& donde) {
 void frmAlgebra::CrearResultados(QBoxLayout& donde) {
     auto* caja = new QGroupBox(Q("RESULTADOS"));
     auto* columna = Columna(caja);
-    txtVentanaResultados = new QPlainTextEdit;
-    txtVentanaResultados->setObjectName(Q("txtVentanaResultados"));
-    txtVentanaResultados->setAccessibleName(Q("Resultados"));
-    txtVentanaResultados->setReadOnly(true);
-    txtVentanaResultados->setTabChangesFocus(true);
+    txtVentanaResultados = CrearTextoFijo(
+        "txtVentanaResultados", "Resultados", [this] { return logica.Copiar(); }, [](int linea) { return linea; });
     txtVentanaResultados->setMinimumSize(AnchoResultados,
                                          LineasResultados * txtVentanaResultados->fontMetrics().lineSpacing());
     columna->addWidget(txtVentanaResultados, 1);
@@ -162,7 +157,7 @@ void frmAlgebra::CrearResultados(QBoxLayout& donde) {
     imgGuardar = CrearBoton("imgGuardar", "Guardar...", "Guardar el sistema resultante",
                             [this] { Hacer(imgGuardar, [this] { logica.imgGuardar(); }); });
     imgCopiar = CrearBoton("imgCopiar", "Copiar", "Copiar los resultados como una tabla",
-                           [this] { QApplication::clipboard()->setText(Q(logica.Copiar())); });
+                           [this] { AlPortapapeles(logica.Copiar()); });
     fila->addWidget(imgGuardar);
     fila->addStretch();
     fila->addWidget(imgCopiar);
@@ -196,11 +191,10 @@ void frmAlgebra::Pintar() {
     for (size_t i = 0; i < optTipo.size(); ++i) optTipo[i]->setChecked(logica.optTipo == static_cast<int>(i));
     cboTipoOrdenacion->setCurrentIndex(logica.cboTipoOrdenacion);
     cboTipoOrdenacion->setEnabled(logica.optTipo == OrdenarSistema1);
-    QStringList lineas;
-    for (const std::string& linea : logica.txtVentanaResultados) lineas << Q(linea);
-    const QString texto = lineas.join(QLatin1Char('\n'));
-    if (txtVentanaResultados->toPlainText() != texto) txtVentanaResultados->setPlainText(texto);
-    imgCopiar->setEnabled(!texto.isEmpty());
+    std::string texto;
+    for (const std::string& linea : logica.txtVentanaResultados) texto += (texto.empty() ? "" : "\n") + linea;
+    PintarTextoFijo(*txtVentanaResultados, texto);
+    imgCopiar->setEnabled(!texto.empty());
     PintarPanelEspera(espera, logica.picVentanaEspera);
 }
 

@@ -1,9 +1,8 @@
 #include "frmCoeficienteRentabilidad.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QFileInfo>
 
+#include "CopiarTabla.h"
 #include "ListaCR.h"
 #include "MarcoFiltro.h"
 #include "SoltarFicheros.h"
@@ -32,8 +31,8 @@ frmCoeficienteRentabilidad::frmCoeficienteRentabilidad(Sesion& sesion, Entorno& 
     CrearFichero(*todo);
     auto* columnas = new QHBoxLayout;
     columnas->setSpacing(2 * Paso);
-    txtPorcentajesApostados = CrearTabla(*columnas, TablaCR::Apostados, "PROBABILIDAD APOSTADA (%)", "Apostados");
-    txtPorcentajesReales = CrearTabla(*columnas, TablaCR::Reales, "PROBABILIDAD REAL (%)", "Reales");
+    txtPorcentajesApostados = CrearTablaPorcentajes(*columnas, logica, TablaCR::Apostados, [this] { Pintar(); });
+    txtPorcentajesReales = CrearTablaPorcentajes(*columnas, logica, TablaCR::Reales, [this] { Pintar(); });
     CrearCoeficientes(*columnas);
     todo->addLayout(columnas, 1);
     caja->addWidget(controles, 1);
@@ -70,17 +69,6 @@ void frmCoeficienteRentabilidad::CrearFichero(QBoxLayout& donde) {
     donde.addLayout(fila);
 }
 
-CamposPorcentajes frmCoeficienteRentabilidad::CrearTabla(QBoxLayout& donde, TablaCR tabla, const std::string& titulo,
-                                                         const std::string& sufijo) {
-    return CrearTablaPorcentajes(donde, {titulo, sufijo,
-                                         [this, tabla](size_t i, const std::string& texto) {
-                                             logica.CambiarPorcentaje(tabla, i, texto), Pintar();
-                                         },
-                                         [this, tabla] { logica.imgINIPorcentajes(tabla), Pintar(); },
-                                         [this, tabla] { logica.imgAbrirPorcentajes(tabla), Pintar(); },
-                                         [this, tabla] { logica.imgGuardarPorcentajes(tabla), Pintar(); }});
-}
-
 void frmCoeficienteRentabilidad::CrearCoeficientes(QBoxLayout& donde) {
     auto* caja = new QWidget;
     auto* columna = new QVBoxLayout(caja);
@@ -89,12 +77,13 @@ void frmCoeficienteRentabilidad::CrearCoeficientes(QBoxLayout& donde) {
     // The widest row there can be gives the list its width.
     lstCR = CrearListaCR([](size_t) { return std::string("0,0: 13983816"); },
                          [this](size_t i, bool elegido) { logica.ElegirCR(i, elegido), Pintar(); });
+    HabilitarCopia(*lstCR, [this] { return logica.Copiar(); });
     lstCR->setAccessibleName(Q("Apuestas de cada coeficiente"));
     lstCR->setToolTip(Q("Apuestas de cada coeficiente; la última fila es de 9,9 en adelante"));
     lblApuestasSeleccionadasCR = new QLabel;
     lblApuestasSeleccionadasCR->setObjectName(Q("lblApuestasSeleccionadasCR"));
     imgCopiar = CrearBoton("imgCopiar", "Copiar", "Copiar los coeficientes como una tabla",
-                           [this] { QApplication::clipboard()->setText(Q(logica.Copiar())); });
+                           [this] { AlPortapapeles(logica.Copiar()); });
     columna->addWidget(new QLabel(Q("COEFICIENTES")));
     columna->addWidget(lstCR, 1);
     columna->addWidget(lblApuestasSeleccionadasCR);

@@ -21,8 +21,6 @@ class frmCoeficienteRentabilidad final : public QDialog {
     void Pintar();
     void PintarLista();
     void CrearFichero(QBoxLayout& donde);
-    CamposPorcentajes CrearTabla(QBoxLayout& donde, TablaCR tabla, const std::string& titulo,
-                                 const std::string& sufijo);
     void CrearCoeficientes(QBoxLayout& donde);
     void CrearPie(QBoxLayout& donde);
     /// Runs an effect of `boton`, which gets the focus back that the work took from it.

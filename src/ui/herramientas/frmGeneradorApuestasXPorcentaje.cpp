@@ -3,17 +3,17 @@
 #include "BarraProgreso.h"
 #include "FicheroPorcentajes.h"
 #include "FiltroTeclas.h"
+#include "Lista.h"
 #include "MarcoFiltro.h"
 #include "PieHerramienta.h"
+#include "RejillaValores.h"
 #include "SoltarFicheros.h"
 #include "TextoQt.h"
 
 namespace {
 
 QStringList TextosLista() {
-    QStringList textos{Q("------")};
-    for (int p = 1; p <= 100; ++p) textos << QString::number(p);
-    return textos;
+    return QStringList(Q("------")) + Enteros(1, 100);
 }
 
 } // namespace
@@ -40,45 +40,17 @@ frmGeneradorApuestasXPorcentaje::frmGeneradorApuestasXPorcentaje(EstadoTrabajo& 
     AjustarTamanio(*this);
 }
 
-// In the shape of the ticket: columns of tens, which are read one after the other and so stand in boxes
-// of their own, or rows of five on the ticket of forty.
 void frmGeneradorApuestasXPorcentaje::CrearListas(QVBoxLayout& caja) {
-    const int maximo = logica.trabajo.NumeroMaximo();
-    const bool columnas = maximo == NumeroMaximoBoleto;
-    QGridLayout* marco = CrearCaja(caja, "Porcentaje de apuestas de cada número");
-    listas = marco->parentWidget();
-    std::array<QGridLayout*, 5> rejillas;
-    for (size_t c = 0; c < rejillas.size(); ++c) {
-        if (c > 0 && !columnas) {
-            rejillas[c] = rejillas[0];
-            continue;
-        }
-        auto* columna = new QWidget;
-        rejillas[c] = new QGridLayout(columna);
-        rejillas[c]->setContentsMargins(0, 0, 0, 0);
-        rejillas[c]->setHorizontalSpacing(Paso);
-        rejillas[c]->setVerticalSpacing(Paso / 2);
-        marco->addWidget(columna, 0, static_cast<int>(c));
-    }
-    for (int n = 1; n <= maximo; ++n) {
-        const int fila = columnas ? n % 10 : (n - 1) / 5, columna = columnas ? n / 10 : (n - 1) % 5;
-        QGridLayout* rejilla = rejillas[static_cast<size_t>(columna)];
-        QComboBox* lista = CrearLista(n);
-        auto* numero = new QLabel(QString::number(n));
-        numero->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        numero->setBuddy(lista);
-        rejilla->addWidget(numero, fila, columnas ? 0 : 2 * columna);
-        rejilla->addWidget(lista, fila, columnas ? 1 : 2 * columna + 1);
-    }
-    if (columnas) rejillas[0]->setRowMinimumHeight(0, cboPorcentaje[1]->sizeHint().height());
+    caja.addWidget(new QLabel(Q("Porcentaje de apuestas de cada número")));
+    listas = CrearRejillaValores(logica.trabajo.NumeroMaximo(), [this](int n) { return CrearLista(n); });
+    caja.addWidget(listas);
 }
 
 QComboBox* frmGeneradorApuestasXPorcentaje::CrearLista(int n) {
     static const QStringList textos = TextosLista();
-    auto* lista = new QComboBox;
-    lista->setObjectName(NombreIndexado("cboPorcentaje", n - 1));
-    lista->setAccessibleName(Q("Porcentaje del ") + QString::number(n));
-    lista->addItems(textos);
+    QComboBox* lista =
+        ::CrearLista("cboPorcentaje_" + std::to_string(n - 1), "Porcentaje del " + std::to_string(n), textos);
+    lista->setPalette(ColoresSobrePapel(palette()));
     connect(lista, &QComboBox::activated, this, [this, n](int porcentaje) {
         logica.cboPorcentaje[static_cast<size_t>(n)] = porcentaje;
         Pintar();

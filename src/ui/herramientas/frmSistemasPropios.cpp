@@ -1,12 +1,12 @@
 #include "frmSistemasPropios.h"
 
-#include <QFontDatabase>
-
 #include "BarraProgreso.h"
+#include "Lista.h"
 #include "MarcoFiltro.h"
 #include "Mientras.h"
 #include "PieHerramienta.h"
 #include "SoltarFicheros.h"
+#include "TextoFijo.h"
 #include "TextoQt.h"
 
 namespace {
@@ -76,12 +76,8 @@ void frmSistemasPropios::CrearOrigen(QHBoxLayout& fila) {
     origen = CrearRejillaNumeros(this, "lblNumero", {[this](int) { Pintar(); }, {}, {}});
     for (QToolButton* celda : origen.numero)
         if (celda != nullptr) celda->setFocusPolicy(Qt::NoFocus);
-    txtPorcentajesNumeros = new QPlainTextEdit;
-    txtPorcentajesNumeros->setObjectName(Q("txtPorcentajesNumeros"));
-    txtPorcentajesNumeros->setAccessibleName(Q("Porcentaje de apuestas de cada número de origen"));
-    txtPorcentajesNumeros->setReadOnly(true);
-    txtPorcentajesNumeros->setTabChangesFocus(true);
-    txtPorcentajesNumeros->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    txtPorcentajesNumeros = CrearTextoFijo("txtPorcentajesNumeros", "Porcentaje de apuestas de cada número de origen",
+                                           [this] { return logica.TextoTabla(); });
     txtPorcentajesNumeros->setFixedWidth(txtPorcentajesNumeros->fontMetrics().horizontalAdvance(Q("00-00,00%")) + 40);
     dos->addWidget(origen.papel);
     dos->addWidget(txtPorcentajesNumeros);
@@ -117,9 +113,7 @@ void frmSistemasPropios::CrearOrden(QHBoxLayout& fila) {
     for (int n = 1; n <= NumeroMaximoBoleto; ++n) {
         const auto i = static_cast<size_t>(n);
         lblDestino[i] = new QLabel(Q("El ") + QString::number(n) + Q(" por el"));
-        cboOrden[i] = new QComboBox;
-        cboOrden[i]->setObjectName(NombreIndexado("cboOrden", n - 1));
-        cboOrden[i]->setAccessibleName(Q("Número de origen del ") + QString::number(n));
+        cboOrden[i] = CrearLista("cboOrden_" + std::to_string(n - 1), "Número de origen del " + std::to_string(n));
         connect(cboOrden[i], &QComboBox::activated, this, [this, n, i] {
             logica.ElegirOrigen(n, cboOrden[i]->currentData().toInt());
             Pintar();
@@ -159,8 +153,7 @@ void frmSistemasPropios::Pintar() {
     lblTitNumerosDESTINO->setText(Q(logica.lblTitNumerosDESTINO()));
     PintarRejillaNumeros(origen, logica.lblNumero, NumeroMaximoBoleto, true);
     PintarRejillaNumeros(destino, logica.lblNumeroFINAL, NumeroMaximoBoleto, true);
-    if (const QString texto = Q(logica.txtPorcentajesNumeros()); txtPorcentajesNumeros->toPlainText() != texto)
-        txtPorcentajesNumeros->setPlainText(texto);
+    PintarTextoFijo(*txtPorcentajesNumeros, logica.txtPorcentajesNumeros());
     chkElegirOrden->setChecked(logica.chkElegirOrden);
     lblSinDestinos->setVisible(logica.Destinos().empty());
     for (int n = 1; n <= NumeroMaximoBoleto; ++n) {

@@ -27,6 +27,17 @@ std::string LogicaVisualizar::Titulo() const {
     return "VISUALIZAR ARCHIVO DE APUESTAS (TIPO DE JUEGO SELECCIONADO: " + trabajo.TipoJuego() + ")";
 }
 
+std::string LogicaVisualizar::TextoTabla() const {
+    if (!Navegable) return "";
+    std::string tabla = "Apuesta\t1\t2\t3\t4\t5\t6\t" + LetraDigito() + "\n";
+    for (size_t r = 0; r < static_cast<size_t>(FilasDeBoleto(BoletoActual)); ++r) {
+        tabla += std::to_string(r + 1);
+        for (size_t c = 0; c < 6; ++c) tabla += "\t" + lblColumna[r * 6 + c];
+        tabla += "\t" + lblReintegro[r] + "\n";
+    }
+    return tabla;
+}
+
 void LogicaVisualizar::cmdDesdeFichero() {
     const std::string ruta = entorno.PedirAbrir(PeticionAbrirApuestas());
     if (!ruta.empty()) Cargar(ruta);

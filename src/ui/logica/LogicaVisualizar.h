@@ -42,6 +42,10 @@ struct LogicaVisualizar {
     int32_t FilasDeBoleto(int32_t t) const;
     std::string lblNumeroBoleto() const;
     std::string Titulo() const;
+    /// Heads the column of the digits.
+    std::string LetraDigito() const { return trabajo.NumeroMaximo() == NumeroMaximoBoleto ? "R" : "S"; }
+    /// The bets of the ticket as a table for a spreadsheet; empty without a file.
+    std::string TextoTabla() const;
     bool PuedeRetroceder() const { return Navegable && BoletoActual > 1; }
     bool PuedeAvanzar() const { return Navegable && BoletoActual < Boletos(); }
 

@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QPushButton>
 
+#include "CopiarTabla.h"
 #include "MarcoFiltro.h"
 #include "TextoQt.h"
 
@@ -22,8 +23,7 @@ void CrearPortapapeles(QWidget& papel, Entorno& entorno, const PeticionPanelMarc
     papel.setContextMenuPolicy(Qt::ActionsContextMenu);
     QAction* copiar = CrearAccion(papel, Q("Copiar números"), QKeySequence::Copy);
     QAction* pegar = CrearAccion(papel, Q("Pegar números"), QKeySequence::Paste);
-    QObject::connect(copiar, &QAction::triggered, &papel,
-                     [marcas = p.marcas] { QApplication::clipboard()->setText(Q(marcas().Copiar())); });
+    QObject::connect(copiar, &QAction::triggered, &papel, [marcas = p.marcas] { AlPortapapeles(marcas().Copiar()); });
     QObject::connect(pegar, &QAction::triggered, &papel, [&entorno, marcas = p.marcas, alCambiar = p.alCambiar] {
         marcas().Pegar(entorno, Utf8(QApplication::clipboard()->text()));
         alCambiar();

@@ -6,6 +6,7 @@
 
 #include "AlVuelo.h"
 #include "FiltrosSencillos.h"
+#include "Lista.h"
 #include "MarcoFiltro.h"
 #include "TextoQt.h"
 #include "TextosAlVuelo.h"
@@ -62,10 +63,7 @@ PanelReparto::PanelReparto(PeticionReparto peticion) : peticion_(std::move(petic
     auto* columna = new QVBoxLayout(this);
     columna->setContentsMargins(0, 0, 0, 0);
     columna->setSpacing(Paso / 2);
-    cboApartado = new QComboBox;
-    cboApartado->setObjectName(Q("cboApartado"));
-    cboApartado->setAccessibleName(Q("Qué reparto se ve"));
-    cboApartado->setToolTip(Q("Qué reparto se ve"));
+    cboApartado = CrearLista("cboApartado", "Qué reparto se ve");
     cboApartado->hide();
     connect(cboApartado, &QComboBox::activated, this, [this] { MostrarApartado(); });
     grafico = new GraficoBarras(Q("graficoReparto"), Q("Reparto de las apuestas de la base"), peticion_.entorno);

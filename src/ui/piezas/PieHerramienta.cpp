@@ -1,5 +1,6 @@
 #include "PieHerramienta.h"
 
+#include "Lista.h"
 #include "MarcoFiltro.h"
 #include "TextoQt.h"
 
@@ -39,11 +40,7 @@ QLabel* CrearCuenta(QGridLayout& rejilla, int fila, std::string_view titulo, std
 }
 
 void PonerAzar(QGridLayout& rejilla, int maximo, int& cuantos, std::function<void()> alPulsar) {
-    auto* lista = new QComboBox;
-    lista->setObjectName(Q("cboNumeros"));
-    lista->setAccessibleName(Q("Cantidad de números"));
-    lista->setToolTip(Q("Cuántos números se marcan al azar"));
-    for (int n = 1; n <= maximo; ++n) lista->addItem(QString::number(n));
+    QComboBox* lista = CrearLista("cboNumeros", "Cuántos números se marcan al azar", Enteros(1, maximo));
     lista->setCurrentIndex(cuantos - 1);
     QObject::connect(lista, &QComboBox::currentIndexChanged, lista, [&cuantos](int i) { cuantos = i + 1; });
     rejilla.addWidget(lista, 0, 0);

@@ -31,22 +31,24 @@ CamposPorcentajes CrearTablaPorcentajes(QBoxLayout& donde, PeticionTablaPorcenta
     auto* columna = new QVBoxLayout(caja);
     columna->setContentsMargins(0, 0, 0, 0);
     columna->setSpacing(Paso);
-    columna->addWidget(new QLabel(Q(peticion.titulo)));
+    const bool reales = peticion.tabla == TablaCR::Reales;
+    const std::string sufijo = reales ? "Reales" : "Apostados";
+    columna->addWidget(new QLabel(Q(reales ? "PROBABILIDAD REAL (%)" : "PROBABILIDAD APOSTADA (%)")));
     CamposPorcentajes campos{};
     const auto crear = [&](int n) {
         const auto i = static_cast<size_t>(n - 1);
-        campos[i] = CrearCampo(n, peticion.sufijo,
+        campos[i] = CrearCampo(n, sufijo,
                                [alCambiar = peticion.alCambiar, i](const std::string& texto) { alCambiar(i, texto); });
         return campos[i];
     };
     columna->addWidget(CrearRejillaValores(NumeroMaximoBoleto, crear), 1);
     auto* fila = new QHBoxLayout;
-    fila->addWidget(CrearBoton("imgINIPorcentajes" + peticion.sufijo, "Poner a 0", "Inicializa todos los porcentajes",
+    fila->addWidget(CrearBoton("imgINIPorcentajes" + sufijo, "Poner a 0", "Inicializa todos los porcentajes",
                                std::move(peticion.alInicializar)));
-    fila->addWidget(CrearBoton("imgAbrirPorcentajes" + peticion.sufijo, "Abrir...", "Abrir Fichero de Porcentajes",
+    fila->addWidget(CrearBoton("imgAbrirPorcentajes" + sufijo, "Abrir...", "Abrir Fichero de Porcentajes",
                                std::move(peticion.alAbrir)));
-    fila->addWidget(CrearBoton("imgGuardarPorcentajes" + peticion.sufijo, "Guardar...",
-                               "Guardar Fichero de Porcentajes", std::move(peticion.alGuardar)));
+    fila->addWidget(CrearBoton("imgGuardarPorcentajes" + sufijo, "Guardar...", "Guardar Fichero de Porcentajes",
+                               std::move(peticion.alGuardar)));
     fila->addStretch();
     columna->addLayout(fila);
     donde.addWidget(caja);

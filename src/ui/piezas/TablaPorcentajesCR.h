@@ -9,10 +9,11 @@
 #include <string>
 
 #include "FicheroPorcentajes.h"
+#include "PorcentajesCR.h"
 
-/// Texts, names and effects of the table. `sufijo` ends the names of its controls.
+/// Which table, and the effects of its controls.
 struct PeticionTablaPorcentajes {
-    std::string titulo, sufijo;
+    TablaCR tabla;
     std::function<void(size_t i, const std::string& texto)> alCambiar;
     std::function<void()> alInicializar, alAbrir, alGuardar;
 };
@@ -21,5 +22,20 @@ using CamposPorcentajes = std::array<QLineEdit*, 49>;
 
 /// Adds the table to `donde`.
 CamposPorcentajes CrearTablaPorcentajes(QBoxLayout& donde, PeticionTablaPorcentajes peticion);
+
+/// Wired to a logic, which outlives it; `pintar` follows each effect.
+template <class Logica>
+CamposPorcentajes CrearTablaPorcentajes(QBoxLayout& donde, Logica& logica, TablaCR tabla,
+                                        const std::function<void()>& pintar) {
+    const auto orden = [&logica, tabla, pintar](void (Logica::*efecto)(TablaCR)) {
+        return [&logica, tabla, pintar, efecto] { (logica.*efecto)(tabla), pintar(); };
+    };
+    return CrearTablaPorcentajes(donde, {tabla,
+                                         [&logica, tabla, pintar](size_t i, const std::string& texto) {
+                                             logica.CambiarPorcentaje(tabla, i, texto), pintar();
+                                         },
+                                         orden(&Logica::imgINIPorcentajes), orden(&Logica::imgAbrirPorcentajes),
+                                         orden(&Logica::imgGuardarPorcentajes)});
+}
 
 void PintarTablaPorcentajes(const CamposPorcentajes& campos, const TextosPorcentajes& textos);

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 
+#include "CopiarTabla.h"
 #include "TablaFiltros.h"
 #include "TextoQt.h"
 #include "modGeneral.h"
@@ -175,6 +176,8 @@ QTreeWidget* CrearVistaFiltros(QWidget* padre, std::function<void(int)> alternar
     cabecera->resizeSection(Eliminan, 20 * letra);
     // Room for the header and the twenty rows, so that none is cut off.
     lista->setMinimumHeight(cabecera->sizeHint().height() + NFilas * AltoFilaMinimo + 2 * lista->frameWidth());
+    HabilitarCopia(*lista);
+    lista->setContextMenuPolicy(Qt::NoContextMenu); // the right button has an order of its own
     new Ordenes(lista, std::move(alternar), std::move(abrir));
     lista->setCurrentItem(lista->topLevelItem(0));
     return lista;

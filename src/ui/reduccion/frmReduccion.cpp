@@ -1,19 +1,17 @@
 #include "frmReduccion.h"
 
 #include "FiltroTeclas.h"
+#include "Lista.h"
 #include "TextoQt.h"
 
 namespace {
 
 constexpr int TiposDeReduccion = 5, Porcentajes = 100;
 
-QComboBox* CrearLista(std::string_view nombre, std::string_view ayuda, int entradas, std::string (*texto)(int)) {
-    auto* lista = new QComboBox;
-    lista->setObjectName(Q(nombre));
-    lista->setAccessibleName(Q(ayuda));
-    lista->setToolTip(Q(ayuda));
-    for (int i = 0; i < entradas; ++i) lista->addItem(Q(texto(i)));
-    return lista;
+QStringList Textos(int entradas, std::string (*texto)(int)) {
+    QStringList textos;
+    for (int i = 0; i < entradas; ++i) textos << Q(texto(i));
+    return textos;
 }
 
 template <class T>
@@ -51,8 +49,8 @@ frmReduccion::frmReduccion(Sesion& sesion, Entorno& entorno, QWidget* padre)
 
 void frmReduccion::CrearGarantia(QBoxLayout& donde) {
     QGridLayout* rejilla = CrearCaja(donde, "GARANTIA");
-    cboTipoReduccion = CrearLista("cboTipoReduccion", "Aciertos que asegura la reducción", TiposDeReduccion,
-                                  LogicaReduccion::TextoTipoReduccion);
+    cboTipoReduccion = CrearLista("cboTipoReduccion", "Aciertos que asegura la reducción",
+                                  Textos(TiposDeReduccion, LogicaReduccion::TextoTipoReduccion));
     rejilla->addWidget(new QLabel(Q("Tipo de reducción")), 0, 0);
     rejilla->addWidget(cboTipoReduccion, 0, 1);
     rejilla->setColumnStretch(0, 1);
@@ -73,8 +71,8 @@ void frmReduccion::CrearAlcance(QBoxLayout& donde) {
     txtNColumnas->setFixedWidth(txtNColumnas->fontMetrics().horizontalAdvance(Q("2147483647")) + 3 * Paso);
     chkApuestasExactas = CrearOpcion<QCheckBox>(Q("chkApuestasExactas"), "Generar Número de Apuestas Exactas",
                                                 "Añadir o quitar apuestas hasta que sean justo ese número");
-    cboPorcentaje =
-        CrearLista("cboPorcentaje", "Parte del sistema que se asegura", Porcentajes, LogicaReduccion::TextoPorcentaje);
+    cboPorcentaje = CrearLista("cboPorcentaje", "Parte del sistema que se asegura",
+                               Textos(Porcentajes, LogicaReduccion::TextoPorcentaje));
     rejilla->addWidget(optTipo[0], 0, 0);
     rejilla->addWidget(txtNColumnas, 0, 1, Qt::AlignRight);
     rejilla->addWidget(chkApuestasExactas, 1, 1, Qt::AlignRight);

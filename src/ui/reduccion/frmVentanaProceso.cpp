@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "CopiarTabla.h"
 #include "GraficoHallazgos.h"
 #include "LogicaReduccion.h"
 #include "MarcoFiltro.h"
@@ -67,6 +68,7 @@ frmVentanaProceso::frmVentanaProceso(LogicaVentanaProceso& l, QWidget* padre) : 
     CrearContadores(*caja);
     CrearCentro(*caja);
     CrearPie(*caja);
+    HabilitarCopia(*this, [this] { return logica.TextoTabla(); });
     Pintar();
 }
 

@@ -3,6 +3,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 
+#include "CopiarTabla.h"
 #include "FiltroTeclas.h"
 #include "ImprimirBoletos.h"
 #include "MarcoFiltro.h"
@@ -39,6 +40,7 @@ frmVisualizar::frmVisualizar(EstadoTrabajo& trabajo, Entorno& entorno, QWidget* 
     AceptarFicheros(
         *this, false, [this] { return !ocupada; },
         [this](const auto& rutas) { Trabajar([&] { logica.Cargar(rutas.front()); }); });
+    HabilitarCopia(*this, [this] { return logica.TextoTabla(); });
     Pintar();
     AjustarTamanio(*this);
 }
@@ -70,8 +72,7 @@ QWidget* frmVisualizar::CrearTabla() {
             rejilla->addWidget(celda, r + 1, c + 1);
         }
     }
-    const Juego& juego = logica.trabajo.JuegoActual();
-    rejilla->addWidget(new QLabel(juego.NumeroMaximo == NumeroMaximoBoleto ? Q("R") : Q("S")), 0, 7, Qt::AlignCenter);
+    rejilla->addWidget(new QLabel(Q(logica.LetraDigito())), 0, 7, Qt::AlignCenter);
     return papel;
 }
 

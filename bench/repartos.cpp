@@ -1,6 +1,7 @@
 // How many times its filter's own sweep each spread takes on the whole ticket, and how many it may:
 //
-//     repartos [rondas [procesador]]    at least 5 rounds, 7 unless said; the vector code of that processor
+//     repartos [rondas [procesador [filtro]]]    at least 5 rounds, 7 unless said; the vector code of that
+//                                                processor, - for the best; the works whose name begins so
 //
 // Rounds are interleaved and minima of the thread's processor time are compared. The bars of each spread are
 // checked against the bets and against what the sweep left. Ends with 1 if they are wrong or take too long.
@@ -96,7 +97,7 @@ bool Medir(Sesion& sesion, Entorno& entorno, Caso& caso) {
 
 int main(int argc, char** argv) {
     const int rondas = std::max(5, argc > 1 ? std::atoi(argv[1]) : 7);
-    if (argc > 2) UsarProcesador(argv[2]);
+    if (argc > 2 && argv[2] != std::string_view("-")) UsarProcesador(argv[2]);
     Sesion sesion;
     Entorno entorno;
     IniciarSesion(sesion, entorno);
@@ -106,6 +107,7 @@ int main(int argc, char** argv) {
     sesion.trabajo.ApuestasEnTabla = ApuestasMaximas;
     sesion.condiciones.SorteosFiltro = Historia(2768);
     std::vector<Caso> casos = Casos();
+    if (argc > 3) std::erase_if(casos, [&](const Caso& caso) { return !caso.nombre.starts_with(argv[3]); });
     bool bien = true;
     for (int ronda = 0; ronda < rondas; ++ronda)
         for (Caso& caso : casos) {

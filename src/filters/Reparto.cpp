@@ -1,6 +1,11 @@
 #include "Reparto.h"
 
+#include <algorithm>
+#include <array>
 #include <cstring>
+#include <functional>
+#include <numeric>
+#include <span>
 
 #include "NucleosReparto.h"
 #include "TablaFiltros.h"
@@ -20,7 +25,11 @@ class MuertasAparte {
     }
     // Rejected bets come back to life.
     ~MuertasAparte() {
-        Cambiar([](uint64_t flags) { return flags >> 1 & UnoEnCada; });
+        const auto n = static_cast<size_t>(trabajo_.ApuestasEnTabla);
+        if (n > 0 && vivas_ == trabajo_.ApuestasEnTabla)
+            std::memset(trabajo_.ApuestaEliminada.Fila(1), 0, n);
+        else
+            Cambiar([](uint64_t flags) { return flags >> 1 & UnoEnCada; });
     }
     MuertasAparte(const MuertasAparte&) = delete;
     MuertasAparte& operator=(const MuertasAparte&) = delete;
@@ -30,18 +39,22 @@ class MuertasAparte {
   private:
     static constexpr uint64_t UnoEnCada = 0x0101010101010101u;
 
-    // Eight flags at a time; those behind the last bet become 1, whatever they were.
+    // Eight flags at a time, in pieces; those where all are 0 are only read. The flags behind the last bet
+    // become 1, whatever they were.
     template <class Cambio>
     void Cambiar(Cambio cambio) {
         const auto n = static_cast<size_t>(trabajo_.ApuestasEnTabla);
         if (n == 0) return;
         uint8_t* flags = trabajo_.ApuestaEliminada.Fila(1);
-        std::memset(flags + n, 0, 8);
-        for (size_t i = 0; i < n; i += 8) {
-            uint64_t ocho;
-            std::memcpy(&ocho, flags + i, 8);
-            ocho = cambio(ocho);
-            std::memcpy(flags + i, &ocho, 8);
+        std::memset(flags + n, 0, 64);
+        std::array<uint64_t, 512> copia;
+        for (size_t desde = 0; desde < n; desde += sizeof copia) {
+            const size_t bytes = std::min(sizeof copia, (n - desde + 63) / 64 * 64);
+            const std::span<uint64_t> pieza(copia.data(), bytes / 8);
+            std::memcpy(pieza.data(), flags + desde, bytes);
+            if (std::accumulate(pieza.begin(), pieza.end(), uint64_t{0}, std::bit_or<>()) == 0) continue;
+            for (uint64_t& ocho : pieza) ocho = cambio(ocho);
+            std::memcpy(flags + desde, pieza.data(), bytes);
         }
         std::memset(flags + n, 1, 64);
     }

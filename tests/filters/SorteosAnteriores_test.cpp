@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "CasosFiltros.h"
+#include "EnOrden.h"
 #include "Evaluadores.h"
 #include "FiltroSorteosLiteral.h"
 #include "Guion.h"

@@ -61,7 +61,7 @@ Cuentas ContarAciertos(EstadoTrabajo& trabajo, Entorno& entorno, Responder respo
     CuentaAciertos cuenta{};
     BarrerContando(trabajo, entorno, [&](const Tramo& tramo) {
         responder(tramo, respuestas[0]);
-        NucleoContarAciertos(tramo, respuestas[0], false, cuenta);
+        NucleoContarAciertos(tramo, respuestas[0], cuenta);
     });
     return Cuentas(cuenta.begin(), cuenta.end());
 }

@@ -25,10 +25,10 @@ PorCuenta PorCodigoDeFigura(Valor valor) {
     return tabla;
 }
 
-/// Live bets by class and count, by the place of the figure in the list, and by the sum of the classes.
+/// Live bets by class and count, and by the place of the figure in the list.
 struct CuentasDeClases {
     std::array<Cuentas, 10> PorClase; ///< 0 to 6 of each
-    Cuentas PorFigura, PorSuma;
+    Cuentas PorFigura;
 };
 
 /// `tablas` as `TablasDeFigura` gives them.

@@ -9,7 +9,6 @@
 #include "Escalares.h"
 #include "SumasPorSubconjunto.h"
 #include "TablasCSN.h"
-#include "modCSN.h"
 #include "modGeneral.h"
 
 namespace {
@@ -186,27 +185,6 @@ class MapaValores {
 int64_t LugarDe(const EstadoTrabajo& trabajo, const Tramo& tramo) {
     return tramo.fila[0] - trabajo.TablaApuestas.Fila(1) + 1;
 }
-
-} // namespace
-
-// The base mode and the number of bets tell; the bets looked at guard against a table that was filled
-// in another way.
-bool EsExpansionEntera(const EstadoTrabajo& trabajo) {
-    const int16_t n = trabajo.NumerosBase;
-    const int64_t total = trabajo.ApuestasEnTabla;
-    if (trabajo.cboTipoCombinacion == PronosticoDesdeArchivo || total == 0 || total != Combinaciones(n, 6))
-        return false;
-    const int64_t paso = std::max<int64_t>(1, total / 64);
-    std::array<uint8_t, 6> esperada{};
-    for (int64_t i = total; i >= 1; i -= paso) {
-        CSNaCombinacion(static_cast<int32_t>(i), 6, n, esperada.data());
-        for (int r = 0; r < 6; ++r)
-            if (trabajo.TablaApuestas(r + 1, i) != esperada[static_cast<size_t>(r)]) return false;
-    }
-    return true;
-}
-
-namespace {
 
 int32_t FiltrarComparando(EstadoTrabajo& trabajo, Entorno& entorno, const PreguntaSorteos& pregunta) {
     const Comparacion comparacion(pregunta, entorno);

@@ -21,9 +21,6 @@ struct PreguntaSorteos {
     int32_t Minimo = 0, Maximo = 0; ///< 0 <= Minimo <= Maximo <= number of draws
 };
 
-/// Whether the table holds all bets of the base in lexicographic order, as the expansion leaves it.
-bool EsExpansionEntera(const EstadoTrabajo& trabajo);
-
 /// The ways to the answers.
 enum class ManeraSorteos {
     Comparando, ///< every bet with every draw

@@ -1,4 +1,5 @@
 #include "Apartados.h"
+#include "EnOrden.h"
 #include "Evaluadores.h"
 #include "NucleosGrupos.h"
 #include "Repartidores.h"
@@ -17,18 +18,53 @@ int32_t FiltrarPOSICIONES(Sesion& sesion, Entorno& entorno) {
     return Barrer(sesion.trabajo, entorno, [&](const Tramo& tramo) { return NucleoPosiciones(tramo, tablas); });
 }
 
-// The rows of the table are the values themselves; the bars are those of the base's numbers.
-Apartados RepartirPOSICIONES(Sesion& sesion, Entorno& entorno) {
-    const EstadoTrabajo& trabajo = sesion.trabajo;
-    std::array<CuentaPalabras, 3> cuentas; // each of two balls together
-    BarrerContando(sesion.trabajo, entorno, [&](const Tramo& tramo) {
-        for (size_t c = 0; c < 3; ++c) NucleoContarBytes(tramo, tramo.fila[2 * c + 1], tramo.fila[2 * c], cuentas[c]);
+namespace {
+
+// By the position in the base of each ball.
+using CuentasPorBola = std::array<Cuentas, 6>;
+
+CuentasPorBola ContarExpansion(EstadoTrabajo& trabajo, Entorno& entorno, size_t posiciones) {
+    CuentasPorBola cuentas;
+    cuentas.fill(Cuentas(posiciones));
+    ContarEnOrden(
+        trabajo, entorno,
+        [&](size_t p1, size_t p2, size_t p3, size_t, const CuentaValor& cuenta) {
+            cuentas[0][p1].Sumar(cuenta);
+            cuentas[1][p2].Sumar(cuenta);
+            cuentas[2][p3].Sumar(cuenta);
+        },
+        [&](size_t, size_t p4, size_t p5, size_t p6, const CuentaValor& cuenta) {
+            cuentas[3][p4].Sumar(cuenta);
+            cuentas[4][p5].Sumar(cuenta);
+            cuentas[5][p6].Sumar(cuenta);
+        });
+    return cuentas;
+}
+
+// The rows of the table are the positions themselves, here each two together.
+CuentasPorBola ContarFilas(EstadoTrabajo& trabajo, Entorno& entorno, size_t posiciones) {
+    std::array<CuentaPalabras, 3> pares;
+    BarrerContando(trabajo, entorno, [&](const Tramo& tramo) {
+        for (size_t c = 0; c < 3; ++c) NucleoContarBytes(tramo, tramo.fila[2 * c + 1], tramo.fila[2 * c], pares[c]);
     });
-    const size_t posiciones = static_cast<size_t>(trabajo.NumerosBase) + 1;
+    CuentasPorBola cuentas;
+    for (size_t c = 0; c < 3; ++c) {
+        cuentas[2 * c] = PorAlta(pares[c], posiciones);
+        cuentas[2 * c + 1] = PorBaja(pares[c], posiciones);
+    }
+    return cuentas;
+}
+
+} // namespace
+
+// The bars are those of the base's numbers.
+Apartados RepartirPOSICIONES(Sesion& sesion, Entorno& entorno) {
+    EstadoTrabajo& trabajo = sesion.trabajo;
+    const auto contar = EsExpansionEntera(trabajo) ? ContarExpansion : ContarFilas;
+    const CuentasPorBola cuentas = contar(trabajo, entorno, static_cast<size_t>(trabajo.NumerosBase) + 1);
     Apartados apartados;
     for (size_t k = 0; k < 6; ++k) {
-        const Cuentas suyas = k % 2 == 1 ? PorBaja(cuentas[k / 2], posiciones) : PorAlta(cuentas[k / 2], posiciones);
-        ApartadoReparto bola = ApartadoRecortado("Bola " + std::to_string(k + 1), suyas);
+        ApartadoReparto bola = ApartadoRecortado("Bola " + std::to_string(k + 1), cuentas[k]);
         for (BarraReparto& barra : bola.Barras) {
             barra.Valor = trabajo.BaseNumeros[static_cast<size_t>(barra.Valor)];
             barra.Etiqueta = std::to_string(barra.Valor);

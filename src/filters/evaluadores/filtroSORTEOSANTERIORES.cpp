@@ -2,6 +2,7 @@
 #include <cstdlib>
 
 #include "Apartados.h"
+#include "EnOrden.h"
 #include "Evaluadores.h"
 #include "NucleosSorteos.h"
 #include "Repartidores.h"

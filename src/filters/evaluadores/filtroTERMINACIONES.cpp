@@ -1,3 +1,4 @@
+#include "EnOrden.h"
 #include "Evaluadores.h"
 #include "FigurasDeClases.h"
 #include "Repartidores.h"
@@ -23,12 +24,28 @@ int32_t FiltrarTERMINACIONES(Sesion& sesion, Entorno& entorno) {
     return Barrer(sesion.trabajo, entorno, [&](const Tramo& tramo) { return NucleoClases(tramo, tablas); });
 }
 
+namespace {
+
+Cuentas ContarSumas(EstadoTrabajo& trabajo, Entorno& entorno, const TablasClases& tablas) {
+    if (EsExpansionEntera(trabajo)) return ContarSumasEnOrden(trabajo, entorno, tablas.Clase);
+    const FilasDeTramo<7> filas;
+    CuentaPalabras sumas;
+    BarrerContando(trabajo, entorno, [&](const Tramo& tramo) {
+        FilasClases(tramo, tablas, filas.Todas());
+        NucleoContarBytes(tramo, filas[1], nullptr, sumas);
+    });
+    return PorBaja(sumas, 64);
+}
+
+} // namespace
+
 Apartados RepartirTERMINACIONES(Sesion& sesion, Entorno& entorno) {
-    const CuentasDeClases cuentas = ContarClases(sesion.trabajo, entorno, Preparar(sesion.trabajo));
+    const TablasClases tablas = Preparar(sesion.trabajo);
+    const CuentasDeClases cuentas = ContarClases(sesion.trabajo, entorno, tablas);
     Apartados apartados;
     for (size_t c = 0; c < Digitos; ++c)
         apartados.push_back(Apartado("Terminados en " + std::to_string(c), cuentas.PorClase[c]));
-    apartados.push_back(ApartadoRecortado("Suma de terminaciones", cuentas.PorSuma));
+    apartados.push_back(ApartadoRecortado("Suma de terminaciones", ContarSumas(sesion.trabajo, entorno, tablas)));
     apartados.push_back(ApartadoFiguras(cuentas.PorFigura, PrimeraFiguraTERMINACIONES,
                                         sesion.condiciones.TERMINACIONES.FigurasTerminaciones.size()));
     return apartados;

@@ -37,21 +37,34 @@ std::pair<int32_t, int32_t> Alcance(const EstadoTrabajo& trabajo, const GrupoVal
     return {std::accumulate(marcas.begin(), marcas.begin() + 6, 0), std::accumulate(marcas.end() - 6, marcas.end(), 0)};
 }
 
-Cuentas ContarSumas(EstadoTrabajo& trabajo, Entorno& entorno, const TablasValoraciones& tablas, int32_t minimo,
-                    size_t valores) {
-    if (!tablas.SumaEn16Bits || valores > CuentaPalabras::Valores)
-        return ContarUnaAUna(trabajo, entorno, valores, [&](const Tramo& tramo, int64_t i) {
-            return SumaDeMarcas(tramo, i, tablas.Marca) - minimo;
-        });
-    const FilasDeTramo<2> filas;
-    CuentaPalabras cuenta;
-    BarrerContando(trabajo, entorno, [&](const Tramo& tramo) {
-        FilasPalabras(tramo, tablas.Marca, static_cast<int16_t>(minimo), filas.Todas());
-        NucleoContarBytes(tramo, filas[0], filas[1], cuenta);
-    });
-    Cuentas cuentas;
-    for (size_t v = 0; v < valores; ++v) cuentas.push_back(cuenta.De(v));
-    return cuentas;
+// A group with marks or intervals while it is counted, by the sum from `Minimo` on.
+struct GrupoContado {
+    std::string Nombre;
+    TablasValoraciones Tablas;
+    int32_t Minimo;
+    Cuentas PorSuma;
+    CuentaPalabras Palabras{};
+
+    bool EnPalabras() const { return Tablas.SumaEn16Bits && PorSuma.size() <= CuentaPalabras::Valores; }
+};
+
+std::vector<GrupoContado> GruposParaContar(const Sesion& sesion) {
+    std::vector<GrupoContado> contados;
+    const auto& grupos = sesion.condiciones.VALORACIONES.grupo;
+    for (size_t g = 0; g < grupos.size(); ++g) {
+        if (!TieneAlgo(grupos[g])) continue;
+        const auto [minimo, maximo] = Alcance(sesion.trabajo, grupos[g]);
+        contados.push_back({"Grupo " + std::to_string(g + 1), Preparar(sesion.trabajo, grupos[g]), minimo,
+                            Cuentas(static_cast<size_t>(maximo - minimo) + 1)});
+    }
+    return contados;
+}
+
+void ContarUnaAUna(const Tramo& tramo, GrupoContado& grupo) {
+    for (int64_t i = 0; i < tramo.n; ++i)
+        if (tramo.eliminada[i] != ApuestaMuerta)
+            grupo.PorSuma[static_cast<size_t>(SumaDeMarcas(tramo, i, grupo.Tablas.Marca) - grupo.Minimo)].Sumar(
+                {1, tramo.eliminada[i] == ApuestaPasa});
 }
 
 } // namespace
@@ -66,14 +79,23 @@ int32_t FiltrarVALORACIONES(Sesion& sesion, Entorno& entorno) {
 
 // Groups with marks and no interval yet are told too.
 Apartados RepartirVALORACIONES(Sesion& sesion, Entorno& entorno) {
+    std::vector<GrupoContado> grupos = GruposParaContar(sesion);
+    const FilasDeTramo<2> filas;
+    BarrerContando(sesion.trabajo, entorno, [&](const Tramo& tramo) {
+        for (GrupoContado& grupo : grupos) {
+            if (!grupo.EnPalabras()) {
+                ContarUnaAUna(tramo, grupo);
+                continue;
+            }
+            FilasPalabras(tramo, grupo.Tablas.Marca, static_cast<int16_t>(grupo.Minimo), filas.Todas());
+            NucleoContarBytes(tramo, filas[0], filas[1], grupo.Palabras);
+        }
+    });
     Apartados apartados;
-    const auto& grupos = sesion.condiciones.VALORACIONES.grupo;
-    for (size_t g = 0; g < grupos.size(); ++g) {
-        if (!TieneAlgo(grupos[g])) continue;
-        const auto [minimo, maximo] = Alcance(sesion.trabajo, grupos[g]);
-        const Cuentas cuentas = ContarSumas(sesion.trabajo, entorno, Preparar(sesion.trabajo, grupos[g]), minimo,
-                                            static_cast<size_t>(maximo - minimo) + 1);
-        apartados.push_back(ApartadoRecortado("Grupo " + std::to_string(g + 1), cuentas, minimo));
+    for (GrupoContado& grupo : grupos) {
+        if (grupo.EnPalabras())
+            for (size_t v = 0; v < grupo.PorSuma.size(); ++v) grupo.PorSuma[v] = grupo.Palabras.De(v);
+        apartados.push_back(ApartadoRecortado(std::move(grupo.Nombre), grupo.PorSuma, grupo.Minimo));
     }
     return apartados;
 }

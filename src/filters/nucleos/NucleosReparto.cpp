@@ -1,6 +1,8 @@
 // Kernels that count bets by value.
 #include "NucleosReparto.h"
 
+#include <algorithm>
+
 #include "Objetivos.h"
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "NucleosReparto.cpp"
@@ -13,8 +15,14 @@ namespace {
 namespace HWY_NAMESPACE {
 #if HWY_TARGET == HWY_SCALAR
 
-void Aciertos(const Tramo& tramo, const uint8_t* valores, bool altos, CuentaAciertos& cuenta) {
-    NucleoContarAciertosEscalar(tramo, valores, altos, cuenta);
+void Aciertos(const Tramo& tramo, const uint8_t* valores, CuentaAciertos& cuenta) {
+    NucleoContarAciertosEscalar(tramo, valores, cuenta);
+}
+void Figuras(const Tramo& tramo, const uint8_t* valores, CuentaFiguras& cuenta) {
+    NucleoContarFigurasEscalar(tramo, valores, cuenta);
+}
+void Pares(const Tramo& tramo, const uint8_t* valores, CuentaAciertos& baja, CuentaAciertos& alta) {
+    NucleoContarParesEscalar(tramo, valores, baja, alta);
 }
 void Bytes2(const Tramo& tramo, const uint8_t* baja, const uint8_t* alta, CuentaPalabras& cuenta) {
     NucleoContarBytesEscalar(tramo, baja, alta, cuenta);
@@ -22,36 +30,126 @@ void Bytes2(const Tramo& tramo, const uint8_t* baja, const uint8_t* alta, Cuenta
 void Palabras(const Tramo& tramo, const uint16_t* valores, CuentaPalabras& cuenta) {
     NucleoContarPalabrasEscalar(tramo, valores, cuenta);
 }
+CuentaValor SumarEstados(const uint8_t* estados, size_t n, uint16_t* pasan, uint16_t* rechazadas) {
+    return NucleoSumarEstadosEscalar(estados, n, pasan, rechazadas);
+}
 
 #else
 
-// Bits 3 and 4 of a bet's byte are its state: 8 rejected, 16 dead.
-struct RecuentoAciertos {
-    size_t pasan[7] = {}, rechazadas[7] = {};
+// Each lane counts the bets of one value in a byte, in its low half those that pass and in its high half the
+// rejected ones; halves hold 15 vectors. Values from `Raros` on are looked for where there are any, and those
+// below `Primero` not at all.
+template <size_t Valores, size_t Primero = 0, size_t Raros = Valores>
+class RecuentoPequenos {
+  public:
+    static constexpr int64_t Vectores = 15;
 
-    HWY_INLINE void Contar(V aciertos, V estado) {
-        const V v = hn::Or(aciertos, hn::ShiftLeft<3>(estado));
-        for (size_t h = 0; h <= 3; ++h) ContarLosDe(h, v);
-        if (hn::AllFalse(d, hn::Gt(aciertos, hn::Set(d, 3)))) return; // four of one class are rare
-        for (size_t h = 4; h <= 6; ++h) ContarLosDe(h, v);
+    HWY_INLINE RecuentoPequenos() {
+        for (V& cuenta : cuentas_) cuenta = hn::Zero(d);
+        for (auto* sumas : {pasan_, rechazadas_})
+            for (size_t v = 0; v < Valores; ++v) sumas[v] = hn::Zero(d64);
     }
-    HWY_INLINE void ContarLosDe(size_t h, V v) {
-        pasan[h] += hn::CountTrue(d, hn::Eq(v, hn::Set(d, static_cast<uint8_t>(h))));
-        rechazadas[h] += hn::CountTrue(d, hn::Eq(v, hn::Set(d, static_cast<uint8_t>(h + 8))));
+    /// `peso` is 1 for a bet that passes, 16 for a rejected one and 0 for a dead one.
+    HWY_INLINE void Contar(V valor, V peso) {
+        for (size_t v = Primero; v < Raros; ++v) ContarLosDe(v, valor, peso);
+        if (Raros == Valores || hn::AllFalse(d, hn::Gt(valor, hn::Set(d, Raros - 1)))) return;
+        for (size_t v = Raros; v < Valores; ++v) ContarLosDe(v, valor, peso);
+        hayRaros_ = true;
     }
+    HWY_INLINE void Vaciar() {
+        for (size_t v = Primero; v < (hayRaros_ ? Valores : Raros); ++v) {
+            pasan_[v] = hn::Add(pasan_[v], hn::SumsOf8(hn::And(cuentas_[v], hn::Set(d, 15))));
+            rechazadas_[v] = hn::Add(rechazadas_[v], hn::SumsOf8(hn::ShiftRight<4>(cuentas_[v])));
+            cuentas_[v] = hn::Zero(d);
+        }
+        hayRaros_ = false;
+    }
+    HWY_INLINE void Sumar(std::array<CuentaValor, Valores>& cuenta) const {
+        for (size_t v = 0; v < Valores; ++v) {
+            const int32_t pasan = Suma(pasan_[v]);
+            cuenta[v].Sumar({pasan + Suma(rechazadas_[v]), pasan});
+        }
+    }
+
+  private:
+    static constexpr hn::Repartition<uint64_t, Bytes> d64{};
+    using V64 = hn::Vec<decltype(d64)>;
+
+    HWY_INLINE void ContarLosDe(size_t v, V valor, V peso) {
+        const auto iguales = hn::Eq(valor, hn::Set(d, static_cast<uint8_t>(v)));
+        cuentas_[v] = hn::IfThenElse(iguales, hn::Add(cuentas_[v], peso), cuentas_[v]);
+    }
+    static HWY_INLINE int32_t Suma(V64 v) { return static_cast<int32_t>(hn::GetLane(hn::SumOfLanes(d64, v))); }
+
+    V cuentas_[Valores];
+    V64 pasan_[Valores], rechazadas_[Valores]; // sums of eight lanes
+    bool hayRaros_ = false;
 };
 
-void Aciertos(const Tramo& tramo, const uint8_t* valores, bool altos, CuentaAciertos& cuenta) {
-    RecuentoAciertos recuento;
+alignas(16) constexpr PorCuenta PesoDeEstado{1, 16, 0}; // by EstadoApuesta
+
+// `contar(i, peso)` for each vector of the stretch and `vaciar()` behind every `vectores` of them.
+template <class Contar, class Vaciar>
+HWY_INLINE void PorTandas(const Tramo& tramo, int64_t vectores, Contar contar, Vaciar vaciar) {
+    const Busqueda16 peso(PesoDeEstado);
     const auto ancho = static_cast<int64_t>(hn::Lanes(d));
-    for (int64_t i = 0; i < tramo.n; i += ancho) {
-        const V v = hn::Load(d, valores + i);
-        recuento.Contar(hn::And(altos ? hn::ShiftRight<4>(v) : v, hn::Set(d, 7)), hn::Load(d, tramo.eliminada + i));
+    for (int64_t desde = 0; desde < tramo.n; desde += vectores * ancho) {
+        const int64_t hasta = std::min(desde + vectores * ancho, tramo.n);
+        for (int64_t i = desde; i < hasta; i += ancho) contar(i, peso(hn::Load(d, tramo.eliminada + i)));
+        vaciar();
     }
-    for (size_t h = 0; h < cuenta.size(); ++h) {
-        const auto pasan = static_cast<int32_t>(recuento.pasan[h]);
-        cuenta[h].Sumar({pasan + static_cast<int32_t>(recuento.rechazadas[h]), pasan});
+}
+
+template <size_t Valores>
+void Pequenos(const Tramo& tramo, const uint8_t* valores, std::array<CuentaValor, Valores>& cuenta) {
+    RecuentoPequenos<Valores> recuento;
+    PorTandas(
+        tramo, recuento.Vectores, [&](int64_t i, V peso) HWY_ATTR { recuento.Contar(hn::Load(d, valores + i), peso); },
+        [&]() HWY_ATTR { recuento.Vaciar(); });
+    recuento.Sumar(cuenta);
+}
+
+void Aciertos(const Tramo& tramo, const uint8_t* valores, CuentaAciertos& cuenta) {
+    Pequenos(tramo, valores, cuenta);
+}
+
+void Figuras(const Tramo& tramo, const uint8_t* valores, CuentaFiguras& cuenta) {
+    Pequenos(tramo, valores, cuenta);
+}
+
+// Four of one class and more are rare.
+void Pares(const Tramo& tramo, const uint8_t* valores, CuentaAciertos& baja, CuentaAciertos& alta) {
+    RecuentoPequenos<7, 1, 4> recuento[2];
+    PorTandas(
+        tramo, recuento->Vectores,
+        [&](int64_t i, V peso) HWY_ATTR {
+            const V v = hn::Load(d, valores + i);
+            recuento[0].Contar(hn::And(v, hn::Set(d, 15)), peso);
+            recuento[1].Contar(hn::ShiftRight<4>(v), peso);
+        },
+        [&]() HWY_ATTR {
+            for (auto& r : recuento) r.Vaciar();
+        });
+    recuento[0].Sumar(baja);
+    recuento[1].Sumar(alta);
+}
+
+CuentaValor SumarEstados(const uint8_t* estados, size_t n, uint16_t* pasan, uint16_t* rechazadas) {
+    const hn::ScalableTag<uint16_t> d16;
+    const hn::Half<Bytes> mitad;
+    size_t suyas[2] = {};
+    for (size_t i = 0; i < n; i += hn::Lanes(d16)) {
+        const auto estado = hn::PromoteTo(d16, hn::LoadU(mitad, estados + i));
+        const auto cuales = hn::FirstN(d16, n - i);
+        const auto sumar = [&](uint16_t* cuentas, uint16_t e, size_t& total) HWY_ATTR {
+            const auto iguales = hn::And(cuales, hn::Eq(estado, hn::Set(d16, e)));
+            hn::StoreU(hn::Sub(hn::LoadU(d16, cuentas + i), hn::VecFromMask(d16, iguales)), d16, cuentas + i);
+            total += hn::CountTrue(d16, iguales);
+        };
+        sumar(pasan, ApuestaPasa, suyas[0]);
+        sumar(rechazadas, ApuestaRechazada, suyas[1]);
     }
+    return {static_cast<int32_t>(suyas[0] + suyas[1]), static_cast<int32_t>(suyas[0])};
 }
 
 class RecuentoPalabras {
@@ -61,7 +159,8 @@ class RecuentoPalabras {
     }
 
     // In a table in order many rows hold a few different values for a while, which are counted one after the
-    // other. Where they are more, the next vectors are likely to have as many.
+    // other. Where they are more, the next vectors are likely to have as many: after each vain attempt twice
+    // as many are counted bet by bet.
     HWY_INLINE void Contar(const uint8_t* baja, const uint8_t* alta, V estado) {
         const V bajas = hn::Load(d, baja), altas = hn::Load(d, alta);
         if (variados_ > 0) {
@@ -71,13 +170,16 @@ class RecuentoPalabras {
         Mascara quedan = hn::Ne(estado, hn::Set(d, ApuestaMuerta));
         for (int v = 0; v < 4; ++v) {
             const auto i = hn::FindFirstTrue(d, quedan);
-            if (i < 0) return;
+            if (i < 0) break;
             const auto iguales = hn::And(hn::Eq(bajas, hn::Set(d, baja[i])), hn::Eq(altas, hn::Set(d, alta[i])));
             ContarIguales(baja[i], alta[i], hn::And(quedan, iguales), estado);
             quedan = hn::AndNot(iguales, quedan);
         }
-        if (hn::AllFalse(d, quedan)) return;
-        variados_ = 3;
+        if (hn::AllFalse(d, quedan)) {
+            pausa_ = 0;
+            return;
+        }
+        variados_ = pausa_ = std::min(2 * pausa_ + 1, MayorPausa);
         ContarUnaAUna(bajas, altas, hn::IfThenElse(quedan, estado, hn::Set(d, ApuestaMuerta)));
     }
 
@@ -110,7 +212,9 @@ class RecuentoPalabras {
     static constexpr hn::RepartitionToWide<Bytes> d16{};
 
     int32_t* cuentas_[CuentaPalabras::Turnos];
+    static constexpr int MayorPausa = 31;
     int variados_ = 0; // vectors yet to be counted one bet at a time
+    int pausa_ = 0;
 };
 
 void Bytes2(const Tramo& tramo, const uint8_t* baja, const uint8_t* alta, CuentaPalabras& cuenta) {
@@ -147,10 +251,21 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace {
 HWY_EXPORT(Aciertos);
+HWY_EXPORT(Figuras);
+HWY_EXPORT(Pares);
 HWY_EXPORT(Bytes2);
 HWY_EXPORT(Palabras);
+HWY_EXPORT(SumarEstados);
 
 alignas(64) constexpr std::array<uint8_t, ApuestasPorTurno + 128> Ceros{};
+
+template <size_t Valores, class Valor>
+void ContarUnoAUno(const Tramo& tramo, std::array<CuentaValor, Valores>& cuenta, Valor valor) {
+    for (int64_t i = 0; i < tramo.n; ++i) {
+        const auto v = static_cast<size_t>(valor(i));
+        if (v < Valores && tramo.eliminada[i] != ApuestaMuerta) cuenta[v].Sumar({1, tramo.eliminada[i] == ApuestaPasa});
+    }
+}
 } // namespace
 
 CuentaValor CuentaPalabras::De(size_t valor) const {
@@ -163,19 +278,37 @@ CuentaValor CuentaPalabras::De(size_t valor) const {
     return suma;
 }
 
-void NucleoContarAciertos(const Tramo& tramo, const uint8_t* valores, bool altos, CuentaAciertos& cuenta) {
-    HWY_DYNAMIC_DISPATCH(Aciertos)(tramo, valores, altos, cuenta);
+void NucleoContarAciertos(const Tramo& tramo, const uint8_t* valores, CuentaAciertos& cuenta) {
+    HWY_DYNAMIC_DISPATCH(Aciertos)(tramo, valores, cuenta);
+}
+
+void NucleoContarPares(const Tramo& tramo, const uint8_t* valores, CuentaAciertos& baja, CuentaAciertos& alta) {
+    HWY_DYNAMIC_DISPATCH(Pares)(tramo, valores, baja, alta);
+}
+
+void NucleoContarFiguras(const Tramo& tramo, const uint8_t* valores, CuentaFiguras& cuenta) {
+    HWY_DYNAMIC_DISPATCH(Figuras)(tramo, valores, cuenta);
 }
 
 void NucleoContarBytes(const Tramo& tramo, const uint8_t* baja, const uint8_t* alta, CuentaPalabras& cuenta) {
     HWY_DYNAMIC_DISPATCH(Bytes2)(tramo, baja, alta == nullptr ? Ceros.data() : alta, cuenta);
 }
 
-void NucleoContarAciertosEscalar(const Tramo& tramo, const uint8_t* valores, bool altos, CuentaAciertos& cuenta) {
-    for (int64_t i = 0; i < tramo.n; ++i) {
-        const size_t aciertos = (altos ? valores[i] >> 4 : valores[i]) & 7;
-        if (aciertos > 6 || tramo.eliminada[i] == ApuestaMuerta) continue;
-        cuenta[aciertos].Sumar({1, tramo.eliminada[i] == ApuestaPasa});
+void NucleoContarAciertosEscalar(const Tramo& tramo, const uint8_t* valores, CuentaAciertos& cuenta) {
+    ContarUnoAUno(tramo, cuenta, [&](int64_t i) { return valores[i]; });
+}
+
+void NucleoContarFigurasEscalar(const Tramo& tramo, const uint8_t* valores, CuentaFiguras& cuenta) {
+    ContarUnoAUno(tramo, cuenta, [&](int64_t i) { return valores[i]; });
+}
+
+void NucleoContarParesEscalar(const Tramo& tramo, const uint8_t* valores, CuentaAciertos& baja, CuentaAciertos& alta) {
+    CuentaAciertos bajas{}, altas{};
+    ContarUnoAUno(tramo, bajas, [&](int64_t i) { return valores[i] & 15; });
+    ContarUnoAUno(tramo, altas, [&](int64_t i) { return valores[i] >> 4; });
+    for (size_t v = 1; v < baja.size(); ++v) {
+        baja[v].Sumar(bajas[v]);
+        alta[v].Sumar(altas[v]);
     }
 }
 
@@ -197,5 +330,19 @@ void NucleoContarPalabrasEscalar(const Tramo& tramo, const uint16_t* valores, Cu
         ++cuenta.Cuentas(static_cast<size_t>(i) %
                          CuentaPalabras::Turnos)[CuentaPalabras::Lugar(valor, tramo.eliminada[i])];
     }
+}
+
+CuentaValor NucleoSumarEstados(const uint8_t* estados, size_t n, uint16_t* pasan, uint16_t* rechazadas) {
+    return HWY_DYNAMIC_DISPATCH(SumarEstados)(estados, n, pasan, rechazadas);
+}
+
+CuentaValor NucleoSumarEstadosEscalar(const uint8_t* estados, size_t n, uint16_t* pasan, uint16_t* rechazadas) {
+    CuentaValor suma;
+    for (size_t i = 0; i < n; ++i) {
+        if (estados[i] == ApuestaMuerta) continue;
+        ++(estados[i] == ApuestaPasa ? pasan : rechazadas)[i];
+        suma.Sumar({1, estados[i] == ApuestaPasa});
+    }
+    return suma;
 }
 #endif

@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "Figuras.h"
 #include "Nucleos.h"
 
 /// A bet's flag while its table is counted.
@@ -18,12 +19,19 @@ struct CuentaValor {
     }
 };
 
-/// Bets by a count of 0 to 6.
+/// Bets by a count of 0 to 6, and by the place of a figure in the list.
 using CuentaAciertos = std::array<CuentaValor, 7>;
+using CuentaFiguras = std::array<CuentaValor, NombresFiguras.size()>;
 
-/// Adds the bets by bits 0 to 2 of their byte, or by bits 4 to 6 with `altos`.
-void NucleoContarAciertos(const Tramo& tramo, const uint8_t* valores, bool altos, CuentaAciertos& cuenta);
-void NucleoContarAciertosEscalar(const Tramo& tramo, const uint8_t* valores, bool altos, CuentaAciertos& cuenta);
+/// Adds the bets by their byte; those with a byte that is none of the values are left out.
+void NucleoContarAciertos(const Tramo& tramo, const uint8_t* valores, CuentaAciertos& cuenta);
+void NucleoContarAciertosEscalar(const Tramo& tramo, const uint8_t* valores, CuentaAciertos& cuenta);
+void NucleoContarFiguras(const Tramo& tramo, const uint8_t* valores, CuentaFiguras& cuenta);
+void NucleoContarFigurasEscalar(const Tramo& tramo, const uint8_t* valores, CuentaFiguras& cuenta);
+
+/// Two counts at a time, in the halves of a byte; those of 0 are left to whoever knows the rest.
+void NucleoContarPares(const Tramo& tramo, const uint8_t* valores, CuentaAciertos& baja, CuentaAciertos& alta);
+void NucleoContarParesEscalar(const Tramo& tramo, const uint8_t* valores, CuentaAciertos& baja, CuentaAciertos& alta);
 
 /// Bets by a value below `Valores`, whose bits 8 and up are the byte `alta`. Four counts take turns,
 /// because a count waits for the one before it when both are of the same value.
@@ -57,3 +65,9 @@ void NucleoContarBytesEscalar(const Tramo& tramo, const uint8_t* baja, const uin
 /// Adds the bets by `valores`, all below `CuentaPalabras::Valores` for live bets; 64 more may be read.
 void NucleoContarPalabras(const Tramo& tramo, const uint16_t* valores, CuentaPalabras& cuenta);
 void NucleoContarPalabrasEscalar(const Tramo& tramo, const uint16_t* valores, CuentaPalabras& cuenta);
+
+/// Adds each of `n` bets to `pasan` or to `rechazadas` at its own place, and returns how many they are. Both
+/// have `HolguraRecuento` places more, and so many more states may be read.
+inline constexpr size_t HolguraRecuento = 64;
+CuentaValor NucleoSumarEstados(const uint8_t* estados, size_t n, uint16_t* pasan, uint16_t* rechazadas);
+CuentaValor NucleoSumarEstadosEscalar(const uint8_t* estados, size_t n, uint16_t* pasan, uint16_t* rechazadas);

@@ -71,7 +71,7 @@ inline std::optional<int> NumeroLiteral(const std::string& texto) {
 }
 
 /// The bet of a plain record, nothing when it is bad.
-inline std::optional<std::vector<int>> ApuestaLiteral(std::string texto, bool eurodreams) {
+inline std::optional<std::vector<int>> RegistroLiteral(std::string texto, bool eurodreams) {
     const bool conDigito = texto.find('+') != std::string::npos;
     for (char& c : texto)
         if (c == '+') c = ',';
@@ -103,16 +103,20 @@ inline std::optional<std::vector<std::vector<int>>> LeerLiteral(const std::strin
         if (pos + 2 + largo > bytes.size()) return std::nullopt;
         const std::string registro = bytes.substr(pos + 2, largo);
         pos += 2 + largo;
+        return registro;
+    };
+    const auto descifrar = [](const std::string& registro) {
         return registro.size() > 200 ? "0" : CifrarLiteral(registro);
     };
     if (!siguiente()) return std::nullopt;
     const auto cuenta = siguiente();
-    const auto n = cuenta ? NumeroLiteral(*cuenta) : std::nullopt;
+    // One too long to be deciphered is no count, rather than one of 0 bets.
+    const auto n = cuenta && cuenta->size() <= 200 ? NumeroLiteral(descifrar(*cuenta)) : std::nullopt;
     if (!n) return std::nullopt;
     std::vector<std::vector<int>> apuestas;
     for (int i = 0; i < *n; ++i) {
         const auto registro = siguiente();
-        const auto apuesta = registro ? ApuestaLiteral(*registro, eurodreams) : std::nullopt;
+        const auto apuesta = registro ? RegistroLiteral(descifrar(*registro), eurodreams) : std::nullopt;
         if (!apuesta) return std::nullopt;
         apuestas.push_back(*apuesta);
     }

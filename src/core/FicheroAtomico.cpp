@@ -14,6 +14,7 @@ namespace {
 
 constexpr int Creacion = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
 constexpr mode_t Permisos = 0666; // less the user's mask
+constexpr const char* Descriptores = "/proc/self/fd/";
 
 std::string CarpetaDe(const std::string& ruta) {
     const size_t barra = ruta.find_last_of('/');
@@ -55,6 +56,7 @@ bool FicheroAtomico::Abrir(const std::string& ruta) {
     const bool existe = stat(destino_.c_str(), &datos) == 0;
     if (existe && S_ISDIR(datos.st_mode)) return Fracasar(EISDIR);
     if (existe && !S_ISREG(datos.st_mode)) {
+        enSitio_ = true;
         descriptor_ = open(destino_.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK);
         return descriptor_ >= 0 || Fracasar(errno);
     }
@@ -65,14 +67,25 @@ bool FicheroAtomico::Abrir(const std::string& ruta) {
     return true;
 }
 
+// A file without a name goes with its process, however that ends. Its name it gets through /proc.
 bool FicheroAtomico::CrearTemporal() {
+    if (access(Descriptores, X_OK) == 0)
+        descriptor_ = open(CarpetaDe(destino_).c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, Permisos);
+    if (descriptor_ >= 0) return true;
+    return Nombrar([this](const char* nombre) {
+        descriptor_ = open(nombre, Creacion, Permisos);
+        return descriptor_ >= 0;
+    });
+}
+
+// Tries names beside the target until one is free.
+bool FicheroAtomico::Nombrar(const std::function<bool(const char*)>& crear) {
     const std::string raiz = CarpetaDe(destino_) + "/.tombolera-" + std::to_string(getpid()) + "-";
     int intento = 0;
     do {
         temporal_ = raiz + std::to_string(intento) + ".tmp";
-        descriptor_ = open(temporal_.c_str(), Creacion, Permisos);
-    } while (descriptor_ < 0 && errno == EEXIST && ++intento < 1000);
-    if (descriptor_ >= 0) return true;
+        if (crear(temporal_.c_str())) return true;
+    } while (errno == EEXIST && ++intento < 1000);
     temporal_.clear();
     return Fracasar(errno);
 }
@@ -91,16 +104,21 @@ bool FicheroAtomico::Asentar() {
     if (asentado_) return true;
     // A device may not know how to settle; that is no failure of the save.
     if (fsync(descriptor_) != 0 && errno != EINVAL && errno != EROFS && errno != ENOTSUP) return Fracasar(errno);
+    asentado_ = true;
+    if (temporal_.empty() && !enSitio_) return true; // without a name it is there only while it is open
     const int cerrado = close(descriptor_);
     descriptor_ = -1;
-    if (cerrado != 0) return Fracasar(errno);
-    asentado_ = true;
-    return true;
+    return cerrado == 0 || Fracasar(errno);
 }
 
 bool FicheroAtomico::Confirmar() {
     if (!Asentar()) return false;
-    if (temporal_.empty()) return true;
+    if (enSitio_) return true;
+    const std::string abierto = Descriptores + std::to_string(descriptor_);
+    const auto enlazar = [&](const char* nombre) {
+        return linkat(AT_FDCWD, abierto.c_str(), AT_FDCWD, nombre, AT_SYMLINK_FOLLOW) == 0;
+    };
+    if (temporal_.empty() && !Nombrar(enlazar)) return false;
     if (std::rename(temporal_.c_str(), destino_.c_str()) != 0) return Fracasar(errno);
     temporal_.clear();
     AsentarCarpeta(CarpetaDe(destino_));

@@ -5,12 +5,14 @@
 //         return FalloAlGuardar(entorno, fichero.Fallo());
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
 /// Writes beside the target and renames over it once everything is on the disk; until then the target
-/// keeps its old content, and an owner that goes away without `Confirmar` leaves no trace. A target
-/// that is no regular file, such as a device, is written in place.
+/// keeps its old content, and an owner that goes away without `Confirmar` leaves no trace; nor does a
+/// process that is killed, where the file system has files without a name. A target that is no regular
+/// file, such as a device, is written in place.
 class FicheroAtomico {
   public:
     FicheroAtomico() = default;
@@ -31,11 +33,12 @@ class FicheroAtomico {
 
   private:
     bool CrearTemporal();
+    bool Nombrar(const std::function<bool(const char*)>& crear);
     bool Fracasar(int error);
 
-    std::string destino_; // symbolic links resolved
-    std::string temporal_;
+    std::string destino_;  // symbolic links resolved
+    std::string temporal_; // empty while what is written has no name, and in place
     std::string fallo_;
     int descriptor_ = -1;
-    bool asentado_ = false;
+    bool enSitio_ = false, asentado_ = false;
 };

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
+#include <new>
 
 #include "Bloqueo.h"
 #include "FicheroAtomico.h"
@@ -12,6 +14,23 @@
 namespace {
 
 constexpr int32_t ApuestasSinPreguntar = 3000000;
+
+bool EscribirSistema(const std::string& ruta, EstadoTrabajo& trabajo, Entorno& entorno, std::string& fallo) {
+    const Bloqueo bloqueo(trabajo);
+    const Tabla& apuestas = trabajo.ApuestasReducidas;
+    const int64_t cantidad = std::min<int64_t>(trabajo.Contador.Reducidas, apuestas.Apuestas());
+    try {
+        FicheroAtomico fichero;
+        const bool escrito =
+            fichero.Abrir(ruta) && EscribirTextoApuestas(fichero, apuestas, cantidad, entorno) && fichero.Confirmar();
+        fallo = fichero.Fallo();
+        return escrito;
+    } catch (const std::bad_alloc&) {
+        fallo = DescripcionFallo(ENOMEM);
+        return false;
+    }
+}
+
 } // namespace
 
 bool VerApuestas(Sesion& sesion, Entorno& entorno) {
@@ -21,16 +40,8 @@ bool VerApuestas(Sesion& sesion, Entorno& entorno) {
         !entorno.Preguntar("Se han generado más de 3.000.000 de apuestas, ¿ desea continuar ?"))
         return false;
     const std::string ruta = entorno.CarpetaInformes + "/TOMBOLERA_TEMP.txt";
-    FicheroAtomico fichero;
-    bool escrito = false;
-    {
-        const Bloqueo bloqueo(trabajo);
-        const Tabla& apuestas = trabajo.ApuestasReducidas;
-        const int64_t cantidad = std::min<int64_t>(trabajo.Contador.Reducidas, apuestas.Apuestas());
-        escrito =
-            fichero.Abrir(ruta) && EscribirTextoApuestas(fichero, apuestas, cantidad, entorno) && fichero.Confirmar();
-    }
-    if (!escrito) return FalloAlGuardar(entorno, fichero.Fallo());
+    std::string fallo;
+    if (!EscribirSistema(ruta, trabajo, entorno, fallo)) return FalloAlGuardar(entorno, fallo);
     entorno.VerInforme(ruta);
     return true;
 }

@@ -16,6 +16,13 @@ void ColorearFilas(Sesion& sesion) {
                                                                       : ColorFila::Oscura;
 }
 
+// Without marks nothing stands in them, and those of the whole ticket hold hundreds of megabytes.
+void SoltarTablas(EstadoTrabajo& trabajo) {
+    for (Tabla* tabla : {&trabajo.TablaApuestas, &trabajo.ApuestaEliminada, &trabajo.ApuestasCondicionadas,
+                         &trabajo.ApuestasReducidas, &trabajo.ApuestasImportadas})
+        tabla->Vaciar();
+}
+
 } // namespace
 
 void InicializarFiltros(Sesion& sesion, Entorno& entorno) {
@@ -38,6 +45,7 @@ void ReiniciarSesion(Sesion& sesion, Entorno& entorno) {
     EstadoTrabajo& trabajo = sesion.trabajo;
     if (trabajo.cboTipoCombinacion != PronosticoDesdeArchivo) {
         LimpiarMarcas(trabajo);
+        SoltarTablas(trabajo);
         trabajo.txtFicheroASCII.clear();
     }
     InicializarFiltros(sesion, entorno);

@@ -10,8 +10,8 @@ void InicializarFiltros(Sesion& sesion, Entorno& entorno);
 /// The start of the program: everything at its default, rows filled, PRIMITIVA, title without file.
 void IniciarSesion(Sesion& sesion, Entorno& entorno);
 
-/// Back to an empty piece of work of the current game, titled "Sin guardar.xml" and saved. With a base
-/// imported from a file the marks and the file stay.
+/// Back to an empty piece of work of the current game, titled "Sin guardar.xml" and saved, whose tables
+/// hold no memory. With a base imported from a file the marks, the file and the tables stay.
 void ReiniciarSesion(Sesion& sesion, Entorno& entorno);
 
 /// Changes the game: clears the marks and colours the rows; conditions, title and reduction stay.

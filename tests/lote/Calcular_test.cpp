@@ -2,6 +2,7 @@
 #include <filesystem>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "Guion.h"
 #include "Proceso.h"
@@ -201,6 +202,29 @@ TEST_F(Calcular, InterrumpidaGuardaElMejorSistema) {
         LeerFicheroApuestas(carpeta.Ruta("mejor.TOM"), apuestas, nullptr, Juegos[PRIMITIVA], guion.entorno);
     EXPECT_NE(r.Salida.find("\nReducidas: " + std::to_string(n) + "\n"), std::string::npos) << r.Salida;
     EXPECT_TRUE(Existe("mejor.xml"));
+}
+
+// Stopped at some moment of the search: what was best then is saved whole, with its guarantee.
+TEST_F(Calcular, InterrumpidaAlMejorarGuardaElMejorSistema) {
+    guion.Marcar({1, 3, 4, 6, 7, 8}); // 14 numbers, 3003 bets
+    ActivarReduccion();
+    EscribirBase();
+    for (const useconds_t espera : {0, 40000, 170000}) {
+        const auto parar = [espera](pid_t hijo, const std::string& errores) {
+            if (errores.find("Mejora ") == std::string::npos) return false;
+            usleep(espera);
+            return kill(hijo, SIGINT) == 0;
+        };
+        const Resultado r = Correr({"calcular", "base.xml", "--mejorar", "600", "--guardar", "mejor.TOM"},
+                                   {.Carpeta = carpeta.Ruta(), .Terminal = true, .AlLeerErrores = parar});
+        EXPECT_EQ(r.Estado, 130);
+        Tabla apuestas;
+        const int32_t n =
+            LeerFicheroApuestas(carpeta.Ruta("mejor.TOM"), apuestas, nullptr, Juegos[PRIMITIVA], guion.entorno);
+        EXPECT_NE(r.Salida.find("\nReducidas: " + std::to_string(n) + "\n"), std::string::npos) << r.Salida;
+        const Resultado huecos = Correr({"huecos", "base.xml", "--sistema", "mejor.TOM"}, {.Carpeta = carpeta.Ruta()});
+        EXPECT_TRUE(huecos.Salida.starts_with("Huecos: 0 de 3003 ")) << huecos.Salida << huecos.Errores;
+    }
 }
 
 } // namespace

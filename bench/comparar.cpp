@@ -1,0 +1,25 @@
+// One round of the comparisons of comparar.py: a line for each with key, name, seconds, seconds of the floor,
+// answer and, with --literales, the seconds of the plain version and how it was measured; tabs between.
+//
+//     comparar FOLDER [--literales]
+#include <cstring>
+
+#include <fmt/format.h>
+
+#include "ContraLiterales.h"
+#include "Reloj.h"
+
+int main(int argc, char** argv) {
+    if (argc < 2) return std::fputs("comparar FOLDER [--literales]\n", stderr), 2;
+    const bool literales = argc > 2 && std::strcmp(argv[2], "--literales") == 0;
+    for (const Comparacion& c : Comparaciones(argv[1])) {
+        int64_t respuesta = 0;
+        const double suelo = Segundos(c.suelo);
+        if (c.preparar) c.preparar();
+        const double propio = Segundos([&] { respuesta = c.hacer(); });
+        const TiempoLiteral literal = literales && c.literal ? c.literal() : TiempoLiteral{};
+        fmt::print("{}\t{}\t{:.6f}\t{:.6f}\t{}\t{:.6f}\t{}\n", c.clave, c.nombre, propio, suelo, respuesta,
+                   literal.segundos, literal.como);
+        std::fflush(stdout);
+    }
+}

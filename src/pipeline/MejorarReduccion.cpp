@@ -53,7 +53,7 @@ void MejorarReduccion(LogicaVentanaProceso& vp) {
     const std::vector<uint64_t> sistema = EnPosiciones(trabajo);
     const Garantia garantia = LaPedida(vp, sistema);
     Mejora mejora(trabajo.ApuestasCondicionadas, trabajo.NumerosBase, garantia, fines.Semilla);
-    if (!mejora.PartirDe(sistema)) return;
+    if (!mejora.PartirDe(sistema, [&vp] { return vp.Turno(0); })) return;
     if (garantia.Exigido < vp.NApuestasReduccion && vp.PorNumero && !mejora.FijarApuestas(vp.NApuestas)) return;
     vp.Cota = mejora.Cota();
     vp.lblCota = FormatoMiles(vp.Cota, vp.entorno.SeparadorMiles);

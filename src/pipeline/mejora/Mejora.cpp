@@ -34,13 +34,13 @@ Mejora::Mejora(const Tabla& condicionadas, int n, Garantia garantia, uint64_t se
         restriccion_.emplace(familia_, *problema_, garantia.Aciertos, semilla);
 }
 
-bool Mejora::PartirDe(const std::vector<uint64_t>& sistema) {
+bool Mejora::PartirDe(const std::vector<uint64_t>& sistema, const std::function<bool()>& seguir) {
     std::vector<int32_t> apuestas;
     for (const uint64_t mascara : sistema) {
         apuestas.push_back(familia_.Lugar(mascara));
         if (apuestas.back() < 0) return false;
     }
-    if (!QuitarSobrantes(familia_, garantia_.Aciertos, garantia_.Exigido, apuestas)) return false;
+    if (!QuitarSobrantes(familia_, garantia_.Aciertos, garantia_.Exigido, apuestas, seguir)) return false;
     sistema_ = sistema;
     if (apuestas.size() < sistema.size() && !Aceptar(apuestas)) return false;
     apuestas_ = apuestas;

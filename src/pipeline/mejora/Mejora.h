@@ -31,8 +31,9 @@ class Mejora {
     Mejora(const Tabla& condicionadas, int n, Garantia garantia, uint64_t semilla);
 
     /// The start: masks of conditioned bets, bit p - 1 for position p. What it does not need is left out.
-    /// False when it is no system with that guarantee.
-    bool PartirDe(const std::vector<uint64_t>& sistema);
+    /// False when it is no system with that guarantee or `seguir()`, called now and then, says no.
+    bool PartirDe(
+        const std::vector<uint64_t>& sistema, const std::function<bool()>& seguir = [] { return true; });
 
     /// Turns to the other question: from the system that stands, the most conditioned bets that `cuantas`
     /// bets can cover; the guarantee is what they cover. False where there is no room for the exchange.

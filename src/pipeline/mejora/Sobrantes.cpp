@@ -4,16 +4,20 @@
 
 #include "Vecindad.h"
 
-bool QuitarSobrantes(const Familia& familia, int t, int64_t exigido, std::vector<int32_t>& sistema) {
+bool QuitarSobrantes(const Familia& familia, int t, int64_t exigido, std::vector<int32_t>& sistema,
+                     const std::function<bool()>& seguir) {
     std::vector<int32_t> veces(familia.Cuantas());
     int64_t cubierto = 0;
-    for (const int32_t apuesta : sistema)
+    for (const int32_t apuesta : sistema) {
+        if (!seguir()) return false;
         CadaVecina(familia, familia.Mascara(apuesta), t, [&](int32_t vecina) {
             if (veces[vecina]++ == 0) cubierto += familia.Veces(vecina);
         });
+    }
     if (cubierto < exigido) return false;
     std::vector<int32_t> quedan;
     for (size_t i = sistema.size(); i-- > 0;) {
+        if (!seguir()) return false;
         int64_t sola = 0; // what it alone covers
         CadaVecina(familia, familia.Mascara(sistema[i]), t, [&](int32_t vecina) {
             if (veces[vecina] == 1) sola += familia.Veces(vecina);

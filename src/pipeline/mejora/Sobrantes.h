@@ -1,14 +1,17 @@
 // Bets that a system can do without.
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "Familia.h"
 
 /// Leaves out of `sistema`, members of the family, the last first, whatever it covers `exigido` of the
 /// bets without; a repeated member counts once. What is left has no bet to spare. False, and then nothing
-/// has changed, when the system does not cover that much. Memory: 4 bytes a bet.
-bool QuitarSobrantes(const Familia& familia, int t, int64_t exigido, std::vector<int32_t>& sistema);
+/// has changed, when the system does not cover that much or `seguir()`, called twice for each of its bets,
+/// says no. Memory: 4 bytes a bet.
+bool QuitarSobrantes(const Familia& familia, int t, int64_t exigido, std::vector<int32_t>& sistema,
+                     const std::function<bool()>& seguir);
 
 /// The least bets that can cover `exigido` of the family: so many of the largest neighbourhoods are needed.
 /// Where these are too many to be counted one by one, none is taken to be larger than in the full base.

@@ -22,6 +22,12 @@ void CadaEleccion(uint64_t libres, int cuantos, uint64_t base, Ver&& ver) {
         CadaEleccion(libres & (libres - 1), cuantos - 1, base | (libres & -libres), ver);
 }
 
+/// Whether at least t bits are set, t from 1 on: without an instruction for it, faster than to count them.
+constexpr bool AlMenos(uint64_t bits, int t) {
+    for (; t > 1; --t) bits &= bits - 1;
+    return bits != 0;
+}
+
 /// Calls `ver(lugar)` for each member of `familia` with at least t positions in common with `mascara`:
 /// by exchanging positions, or by comparing with all where they are few.
 template <class Ver>
@@ -30,7 +36,7 @@ void CadaVecina(const Familia& familia, uint64_t mascara, int t, Ver&& ver) {
     const int a = std::popcount(mascara), k = familia.k();
     if (familia.Cuantas() <= Compensa * TamanioVecindad(familia.n(), a, k, t)) {
         for (int32_t i = 0; i < familia.Cuantas(); ++i)
-            if (std::popcount(mascara & familia.Mascara(i)) >= t) ver(i);
+            if (AlMenos(mascara & familia.Mascara(i), t)) ver(i);
         return;
     }
     const uint64_t fuera = ((uint64_t{1} << familia.n()) - 1) & ~mascara;

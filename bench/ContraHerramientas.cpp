@@ -32,7 +32,7 @@ Tabla Primeras(const M& m, int64_t n) {
 constexpr std::array<uint8_t, 6> Ganadores{4, 11, 23, 30, 38, 47};
 
 Comparacion DeUnSorteo(const M& m) {
-    return {"sorteo", "scrutiny of one draw",
+    return {"sorteo", "the whole ticket against one draw",
             [m] {
                 const SorteoPorNumero sorteo({Ganadores, 0}, SorteoPorNumero::SinDigito);
                 return int64_t{EscrutarTabla(m->todo, N, sorteo, m->aciertos, m->entorno).Aciertos.Aciertos[3]};
@@ -47,7 +47,7 @@ Comparacion DeUnSorteo(const M& m) {
 Comparacion DeMuchosSorteos(const M& m) {
     std::vector<Sorteado> sorteos;
     for (const Sorteo& s : Historia(300)) sorteos.emplace_back(s.numeros, uint8_t{0});
-    return {"sorteos", "scrutiny of 300 draws",
+    return {"sorteos", "the whole ticket against 300 draws",
             [m, sorteos] {
                 int64_t treses = 0;
                 RecorrerSorteos(m->todo, sorteos,
@@ -101,7 +101,7 @@ Comparacion DeRentabilidad(const M& m) {
                 m->suma += FilaLiteral(a, tablas.PorcentajesApostados, tablas.PorcentajesReales);
         });
     };
-    return {"rentabilidad", "coefficients of profitability",
+    return {"rentabilidad", "profitability of the whole ticket",
             [m] {
                 const RegistroCOEFICIENTERENTABILIDAD tablas;
                 std::array<int32_t, ValoresCR> cuantas{};
@@ -118,7 +118,7 @@ Comparacion DeImportar(const M& m) {
         return EnProporcion(
             100000, [&] { m->suma += ImportarTXTLiteral(false, "PRIMITIVA", 49).Importar(bytes).Apuestas.size(); });
     };
-    return {"importar", "import of a text file",
+    return {"importar", "import of a text file, 266 MB",
             [m] { return int64_t{ImportarTXTSinReintegros(m->texto, m->resultado, nullptr, m->entorno)}; },
             [m] { Copiar(m->texto, "/dev/null"); }, literal};
 }
@@ -134,7 +134,7 @@ Comparacion DeLeer(const M& m) {
         std::filesystem::remove(ruta);
         return EnProporcion(n, [&] { m->suma += LeerLiteral(bytes, false)->size(); });
     };
-    return {"leer", "reading of a bet file",
+    return {"leer", "reading of a bet file, 308 MB",
             [m] { return int64_t{LeerFicheroApuestas(m->tom, m->resultado, nullptr, Juegos[PRIMITIVA], m->entorno)}; },
             [m] { Copiar(m->tom, "/dev/null"); }, literal};
 }
@@ -144,9 +144,9 @@ Comparacion DeLeer(const M& m) {
 std::vector<Comparacion> ComparacionesDeHerramientas(const M& m) {
     return {DeUnSorteo(m),
             DeMuchosSorteos(m),
-            DeAlgebra(m, "unir", "union of two systems of 7,000,000", OperacionLiteral::Unir, SumarSinRepetidas),
-            DeAlgebra(m, "comunes", "intersection of the same", OperacionLiteral::Comunes, Intersecar),
-            DeAlgebra(m, "restar", "subtraction of the same", OperacionLiteral::Restar, Restar),
+            DeAlgebra(m, "unir", "union of two systems of 7,000,000 bets", OperacionLiteral::Unir, SumarSinRepetidas),
+            DeAlgebra(m, "comunes", "their intersection", OperacionLiteral::Comunes, Intersecar),
+            DeAlgebra(m, "restar", "their difference", OperacionLiteral::Restar, Restar),
             DeAlgebra(m, "ordenar", "sorting of the whole ticket", OperacionLiteral::Ordenar,
                       [](const Tabla& s1, const Tabla&, Tabla& resultado, const Turno& turno) {
                           return OrdenarSistema(s1, false, resultado, turno);

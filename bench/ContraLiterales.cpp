@@ -48,18 +48,28 @@ Comparacion DeExpansion(const M& m) {
             [m] { m->sesion.trabajo.TablaApuestas.Vaciar(); }};
 }
 
+// Some bets of the whole ticket, at random.
+void Muestra(const M& m, Sesion& s, int32_t n) {
+    s.condiciones = m->sesion.condiciones;
+    s.trabajo.NumerosBase = m->sesion.trabajo.NumerosBase;
+    s.trabajo.BaseNumeros = m->sesion.trabajo.BaseNumeros;
+    s.trabajo.ApuestasEnTabla = n;
+    s.trabajo.TablaApuestas = m->todo;
+    s.trabajo.TablaApuestas.Acortar(n);
+    s.trabajo.ApuestaEliminada.Dimensionar(1, n);
+}
+
+// In their order each sees what those before left.
 Comparacion DeCondiciones(const M& m) {
-    const auto literal = [] {
-        Entorno entorno;
+    const auto literal = [m] {
         Sesion s;
-        Expandir(s, entorno, 26);
-        // In its order each sees what those before left, as on the whole ticket.
-        return EnProporcion(s.trabajo.ApuestasEnTabla, [&] {
+        Muestra(m, s, 500000);
+        return EnProporcion(500000, [&] {
             for (const auto filtrar : CincoLiterales) filtrar(s);
         });
     };
     return {"cinco",
-            "five conditions",
+            "five conditions on the whole ticket",
             [m] {
                 int64_t quedan = N;
                 for (const auto filtrar : CincoFiltros) quedan -= filtrar(m->sesion, m->entorno);
@@ -73,16 +83,11 @@ Comparacion DeCondiciones(const M& m) {
 Comparacion DeSorteosAnteriores(const M& m) {
     const auto literal = [m] {
         Sesion s;
-        s.condiciones = m->sesion.condiciones;
-        s.trabajo.BaseNumeros = m->sesion.trabajo.BaseNumeros;
-        s.trabajo.ApuestasEnTabla = 2000;
-        s.trabajo.TablaApuestas = m->todo;
-        s.trabajo.TablaApuestas.Acortar(2000);
-        s.trabajo.ApuestaEliminada.Dimensionar(1, 2000);
+        Muestra(m, s, 2000);
         return EnProporcion(2000, [&] { LiteralSORTEOSANTERIORES(s); });
     };
     return {"anteriores",
-            "3,000 earlier draws",
+            "3,000 earlier draws on the whole ticket",
             [m] { return N - FiltrarSORTEOSANTERIORES(m->sesion, m->entorno); },
             [m] { m->LeerTabla(); },
             literal,
@@ -113,7 +118,7 @@ Comparacion DeGarantias(const M& m) {
     };
     const auto sesion = std::make_shared<Sesion>();
     return {"garantias",
-            "guarantees of 1,000 bets over every draw",
+            "guarantees of 1,000 bets over all draws",
             [m, sesion] {
                 LogicaGarantias garantias(*sesion, m->entorno);
                 garantias.Calcular();

@@ -124,7 +124,7 @@ def veces(otro, propio):
 
 
 def imprimir(filas):
-    print('| Operation | Time | of the floor | Plain version | DuckDB, one thread | two threads |\n|---|---|---|---|---|---|')
+    print('| Operation | Time | Floor | Plain | DuckDB | DuckDB, 2 threads |\n|---|---|---|---|---|---|')
     for fila in filas.values():
         propio = min(fila['propio'])
         literal = veces(fila.get('literal'), propio) + ('*' if fila.get('como') else '')

@@ -5,6 +5,12 @@
 
 #include "tema.h"
 
+void Estilo::polish(QPalette& paleta) {
+    QProxyStyle::polish(paleta);
+    paleta.setColor(QPalette::PlaceholderText,
+                    Mezclar(paleta.color(QPalette::Text), paleta.color(QPalette::Base), 0.7));
+}
+
 void Estilo::drawPrimitive(PrimitiveElement elemento, const QStyleOption* opcion, QPainter* pintor,
                            const QWidget* widget) const {
     QProxyStyle::drawPrimitive(elemento, opcion, pintor, widget);

@@ -114,6 +114,7 @@ QWidget* frmPrincipal::CrearBoleto() {
     lblMarcarDesmarcarTODOS = new QToolButton(caja);
     lblMarcarDesmarcarTODOS->setObjectName(Q("lblMarcarDesmarcarTODOS"));
     lblMarcarDesmarcarTODOS->setFocusPolicy(Qt::StrongFocus);
+    lblMarcarDesmarcarTODOS->setToolTip(Q("Marcar o desmarcar todos los números del boleto"));
     lblMarcarDesmarcarTODOS->setMinimumWidth(
         lblMarcarDesmarcarTODOS->fontMetrics().horizontalAdvance(Q("Desmarcar todos")) + 16);
     picNumeros = CrearRejillaNumeros(caja, "lblNumero",
@@ -148,13 +149,13 @@ QWidget* frmPrincipal::CrearDigitos() {
     chkReintegros = new QCheckBox(picCuadroReintegros);
     chkReintegros->setObjectName(Q("chkReintegros"));
     chkReintegros->setToolTip(Q("Las apuestas de un fichero llevan un séptimo campo"));
-    digitos = CrearRejillaDigitos(picCuadroReintegros, "lblReintegro",
-                                  [this](int d) { logica.PulsarReintegro(d), Pintar(); });
     auto* titulo = new QHBoxLayout;
     titulo->addWidget(lblTituloReintegros, 1);
     titulo->addWidget(chkReintegros);
     titulo->addWidget(cboTipoReintegro);
     caja->addLayout(titulo);
+    digitos = CrearRejillaDigitos(picCuadroReintegros, "lblReintegro",
+                                  [this](int d) { logica.PulsarReintegro(d), Pintar(); });
     caja->addWidget(digitos.papel);
     connect(cboTipoReintegro, &QComboBox::activated, this, [this](int i) { logica.CambiarTipoReintegro(i), Pintar(); });
     connect(chkReintegros, &QCheckBox::clicked, this, [this](bool si) { logica.CambiarReintegros(si), Pintar(); });

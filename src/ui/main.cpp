@@ -3,6 +3,7 @@
 #include <QTimer>
 #include <QTranslator>
 
+#include "Accesible.h"
 #include "Ayuda.h"
 #include "Estilo.h"
 #include "LogicaPrincipal.h"
@@ -14,6 +15,7 @@
 int main(int argc, char** argv) {
     QApplication aplicacion(argc, argv);
     QApplication::setStyle(new Estilo);
+    InstalarAccesibilidad();
     QApplication::setApplicationName(Q("TOMBOLERA"));
     QGuiApplication::setDesktopFileName(Q("org.tombolera.Tombolera"));
     // Where the desktop has no file chooser of its own, the toolkit's speaks Spanish too.

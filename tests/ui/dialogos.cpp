@@ -8,6 +8,7 @@
 #include "CalcularSistema.h"
 #include "DialogosFiltro.h"
 #include "HistoriaInventada.h"
+#include "InformeEliminadas.h"
 #include "PanelReparto.h"
 #include "TablaFiltros.h"
 #include "Ventanas.h"
@@ -23,11 +24,14 @@
 #include "frmGarantiasTOTAL.h"
 #include "frmGeneradorApuestas.h"
 #include "frmGeneradorApuestasXPorcentaje.h"
+#include "frmInforme.h"
 #include "frmMultiEscrutinioEstadistico.h"
 #include "frmMultiEscrutinioMultiFichero.h"
+#include "frmPrincipal.h"
 #include "frmSistemasPropios.h"
 #include "frmVentanaProceso.h"
 #include "frmVisualizar.h"
+#include "modXML.h"
 
 namespace {
 
@@ -158,6 +162,26 @@ std::unique_ptr<QDialog> De(Guion& g) {
     return std::make_unique<Ventana>(g.sesion.trabajo, g.entorno, nullptr);
 }
 
+// Twelve numbers under a condition, calculated, unless there is a system already.
+std::unique_ptr<QWidget> Principal(Guion& g) {
+    if (g.sesion.trabajo.Contador.Reducidas > 0) return std::make_unique<frmPrincipal>(g.sesion, g.entorno);
+    for (FilaFiltro& fila : g.sesion.condiciones.lstFiltros) fila.Activo = false;
+    g.Marcar({3, 7, 9, 12, 15, 21, 22, 28, 30, 34, 38, 40});
+    if (g.sesion.trabajo.JuegoActual().TieneDigito()) g.MarcarDigitos({4});
+    g.sesion.condiciones.SUMAS.intervalos[0] = {60, 150};
+    g.sesion.condiciones.lstFiltros[kSUMAS].Activo = true;
+    EXPECT_TRUE(CalcularSistema(g.sesion, g.entorno));
+    return std::make_unique<frmPrincipal>(g.sesion, g.entorno);
+}
+
+std::unique_ptr<QWidget> Informe(Guion& g) {
+    const CarpetaTemporal informes;
+    g.entorno.CarpetaInformes = informes.Ruta();
+    AbrirDoceNumeros(g);
+    VerApuestasEliminadas(g.sesion, g.entorno);
+    return std::make_unique<frmInforme>(Q(g.Informes.at(0)), nullptr);
+}
+
 } // namespace
 
 const std::vector<DialogoProbado>& Dialogos() {
@@ -202,6 +226,24 @@ const std::vector<DialogoProbado>& Dialogos() {
         {"frmAcercaDe", [](Guion&) { return std::make_unique<frmAcercaDe>(nullptr); }},
     };
     return dialogos;
+}
+
+std::vector<VentanaProbada> TodasLasVentanas() {
+    std::vector<VentanaProbada> ventanas;
+    for (const DialogoProbado& dialogo : Dialogos()) ventanas.push_back({dialogo.nombre, dialogo.crear});
+    ventanas.push_back({"frmInforme", Informe});
+    ventanas.push_back({"frmPrincipal", Principal});
+    return ventanas;
+}
+
+void AbrirEjemplo(Guion& g, int k) {
+    EXPECT_TRUE(AbrirFicheroBase(std::string(EJEMPLOS) + "/diecinueve-condiciones.xml", g.sesion, g.entorno));
+    g.sesion.condiciones.lstFiltros[static_cast<size_t>(k)].Activo = true;
+}
+
+void AbrirDoceNumeros(Guion& g) {
+    EXPECT_TRUE(AbrirFicheroBase(std::string(EJEMPLOS) + "/doce-numeros.xml", g.sesion, g.entorno));
+    EXPECT_TRUE(CalcularSistema(g.sesion, g.entorno));
 }
 
 void EsperarCuentas(const QWidget& ventana) {

@@ -19,5 +19,19 @@ struct DialogoProbado {
 
 const std::vector<DialogoProbado>& Dialogos();
 
+struct VentanaProbada {
+    std::string nombre;
+    std::function<std::unique_ptr<QWidget>(Guion&)> crear;
+};
+
+/// The dialogs, the main window with work in it and the viewer of reports.
+std::vector<VentanaProbada> TodasLasVentanas();
+
+/// The manual's example with values for all conditions, of which that of row k alone is on.
+void AbrirEjemplo(Guion& g, int k);
+
+/// The manual's first system, calculated.
+void AbrirDoceNumeros(Guion& g);
+
 /// Until what the window counts aside is there to be seen; fails after 20 s.
 void EsperarCuentas(const QWidget& ventana);

@@ -1,15 +1,13 @@
 // What every dialog must be: named, reachable by keyboard, closed by the same three ways, not cut.
 #include <QAbstractButton>
-#include <QAbstractSpinBox>
-#include <QComboBox>
-#include <QDir>
 #include <QLabel>
-#include <QLineEdit>
+#include <QToolButton>
 #include <QtTest/QTest>
 
 #include <set>
 
 #include "Sesiones.h"
+#include "Temas.h"
 #include "Ventanas.h"
 #include "dialogos.h"
 
@@ -18,23 +16,27 @@ namespace {
 // What the smallest desktop leaves to a window between its own bars.
 constexpr QSize Pantalla(1280, 690);
 
-bool EsEntrada(const QWidget& w) {
-    if (!w.isEnabled() || !w.isVisible() || (w.focusPolicy() & Qt::TabFocus) == 0) return false;
-    return qobject_cast<const QAbstractButton*>(&w) || qobject_cast<const QLineEdit*>(&w) ||
-           qobject_cast<const QComboBox*>(&w) || qobject_cast<const QAbstractSpinBox*>(&w) ||
-           qobject_cast<const QAbstractItemView*>(&w);
+// Every stop of the Tab key.
+std::vector<QWidget*> EnOrdenDeTabulador(QWidget& ventana) {
+    std::vector<QWidget*> orden;
+    for (QWidget* w = ventana.nextInFocusChain(); w != &ventana; w = w->nextInFocusChain())
+        if (w->isEnabled() && w->isVisible() && (w->focusPolicy() & Qt::TabFocus) != 0) orden.push_back(w);
+    return orden;
 }
 
-std::vector<QWidget*> EnOrdenDeTabulador(QDialog& dialogo) {
-    std::vector<QWidget*> orden;
-    for (QWidget* w = dialogo.nextInFocusChain(); w != &dialogo; w = w->nextInFocusChain())
-        if (EsEntrada(*w)) orden.push_back(w);
-    return orden;
+// Where the control is; the one stop of a ticket stands for all of its cells.
+QRect Lugar(const QWidget& control, const QWidget& ventana) {
+    const auto* celda = qobject_cast<const QToolButton*>(&control);
+    QRect lugar = control.rect().translated(control.mapTo(&ventana, QPoint()));
+    if (celda == nullptr || !celda->isCheckable()) return lugar;
+    for (const auto* otra : celda->parentWidget()->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly))
+        if (otra->isCheckable() && otra->isVisible()) lugar |= otra->rect().translated(otra->mapTo(&ventana, QPoint()));
+    return lugar;
 }
 
 // Whether the eye that goes in lines from the top meets b after a: lower down, or further in its line.
 bool VaDespues(const QWidget& a, const QWidget& b, const QWidget& ventana) {
-    const QRect ra(a.mapTo(&ventana, QPoint()), a.size()), rb(b.mapTo(&ventana, QPoint()), b.size());
+    const QRect ra = Lugar(a, ventana), rb = Lugar(b, ventana);
     return rb.top() >= ra.bottom() || (rb.left() >= ra.right() && rb.bottom() > ra.top());
 }
 
@@ -47,13 +49,13 @@ const QWidget& En(const QWidget& caja, const QWidget& w) {
 
 // Columns are read one after the other, so that two neighbours are compared by the boxes that hold
 // them in the smallest box that holds both.
-void ComprobarOrden(QDialog& dialogo) {
-    const auto orden = EnOrdenDeTabulador(dialogo);
+void ComprobarOrden(QWidget& ventana) {
+    const auto orden = EnOrdenDeTabulador(ventana);
     for (size_t i = 1; i < orden.size(); ++i) {
         const QWidget &a = *orden[i - 1], &b = *orden[i];
         const QWidget* comun = a.parentWidget();
         while (!comun->isAncestorOf(&b)) comun = comun->parentWidget();
-        EXPECT_TRUE(VaDespues(En(*comun, a), En(*comun, b), dialogo))
+        EXPECT_TRUE(VaDespues(En(*comun, a), En(*comun, b), ventana))
             << Utf8(a.objectName()) << " -> " << Utf8(b.objectName());
     }
 }
@@ -69,20 +71,20 @@ bool Cabe(const QLabel& etiqueta) {
     return etiqueta.sizeHint().width() <= etiqueta.width() && etiqueta.sizeHint().height() <= etiqueta.height();
 }
 
-void ComprobarTextos(QDialog& dialogo) {
-    for (const QLabel* e : dialogo.findChildren<QLabel*>())
+void ComprobarTextos(QWidget& ventana) {
+    for (const QLabel* e : ventana.findChildren<QLabel*>())
         if (e->isVisible()) {
             EXPECT_TRUE(Cabe(*e)) << "cut: " << Utf8(e->text());
         }
-    for (const QAbstractButton* b : dialogo.findChildren<QAbstractButton*>())
+    for (const QAbstractButton* b : ventana.findChildren<QAbstractButton*>())
         if (b->isVisible() && !b->text().isEmpty()) {
             EXPECT_TRUE(Cabe(*b)) << "cut: " << Utf8(b->text());
         }
 }
 
 // Widgets of one parent that stand on each other.
-void ComprobarSolapes(QDialog& dialogo) {
-    const auto todos = dialogo.findChildren<QWidget*>();
+void ComprobarSolapes(QWidget& ventana) {
+    const auto todos = ventana.findChildren<QWidget*>();
     for (const QWidget* a : todos)
         for (const QWidget* b : todos)
             if (a < b && a->parentWidget() == b->parentWidget() && a->isVisible() && b->isVisible() && !a->isWindow() &&
@@ -92,61 +94,33 @@ void ComprobarSolapes(QDialog& dialogo) {
             }
 }
 
-void ComprobarNombres(QDialog& dialogo) {
+void ComprobarNombres(QWidget& ventana) {
     std::set<QString> nombres;
-    for (const QWidget* w : EnOrdenDeTabulador(dialogo)) {
+    for (const QWidget* w : EnOrdenDeTabulador(ventana)) {
         EXPECT_FALSE(w->objectName().isEmpty());
         EXPECT_TRUE(nombres.insert(w->objectName()).second) << "twice: " << Utf8(w->objectName());
         EXPECT_FALSE(w->toolTip().isEmpty() && w->accessibleName().isEmpty()) << Utf8(w->objectName());
     }
 }
 
-QPalette Oscura() {
-    QPalette p;
-    const QColor fondo(0x2B, 0x2B, 0x2E), campo(0x1E, 0x1E, 0x20), texto(0xEE, 0xEE, 0xEE);
-    p.setColor(QPalette::Window, fondo);
-    p.setColor(QPalette::Button, QColor(0x3A, 0x3A, 0x3E));
-    p.setColor(QPalette::Base, campo);
-    p.setColor(QPalette::AlternateBase, fondo);
-    for (const auto rol : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text, QPalette::ToolTipText})
-        p.setColor(rol, texto);
-    for (const auto rol : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
-        p.setColor(QPalette::Disabled, rol, QColor(0x85, 0x85, 0x88));
-    p.setColor(QPalette::ToolTipBase, fondo);
-    p.setColor(QPalette::PlaceholderText, QColor(0xB0, 0xB0, 0xB0));
-    p.setColor(QPalette::Highlight, QColor(0x35, 0x84, 0xE4));
-    p.setColor(QPalette::HighlightedText, Qt::white);
-    return p;
-}
-
-void Retratar(QWidget& ventana, const QString& nombre, qreal escala) {
-    EsperarCuentas(ventana);
-    QPixmap retrato(ventana.size() * escala);
-    retrato.setDevicePixelRatio(escala);
-    ventana.render(&retrato);
-    QDir().mkpath(QStringLiteral(CAPTURAS));
-    EXPECT_TRUE(retrato.save(QStringLiteral(CAPTURAS "/") + nombre + QStringLiteral(".png")));
-}
-
 } // namespace
 
 TEST(Dialogos, NombresTeclasYTextosEnCadaJuego) {
-    for (const DialogoProbado& probado : Dialogos()) {
+    for (const VentanaProbada& probada : TodasLasVentanas()) {
         for (const int juego : {PRIMITIVA, BONOLOTO, EURODREAMS}) {
-            SCOPED_TRACE(probado.nombre + " " + std::string(Juegos[static_cast<size_t>(juego)].Nombre));
+            SCOPED_TRACE(probada.nombre + " " + std::string(Juegos[static_cast<size_t>(juego)].Nombre));
             Guion guion;
             CambiarJuego(guion.sesion, juego);
-            const auto dialogo = probado.crear(guion);
-            ASSERT_NE(dialogo, nullptr);
-            dialogo->show();
-            EXPECT_EQ(Utf8(dialogo->objectName()), probado.nombre);
-            EXPECT_FALSE(dialogo->windowTitle().isEmpty());
-            EXPECT_LE(dialogo->width(), Pantalla.width());
-            EXPECT_LE(dialogo->height(), Pantalla.height());
-            ComprobarNombres(*dialogo);
-            ComprobarOrden(*dialogo);
-            ComprobarTextos(*dialogo);
-            ComprobarSolapes(*dialogo);
+            const auto ventana = probada.crear(guion);
+            ventana->show();
+            EXPECT_EQ(Utf8(ventana->objectName()), probada.nombre);
+            EXPECT_FALSE(ventana->windowTitle().isEmpty());
+            EXPECT_LE(ventana->minimumSizeHint().width(), Pantalla.width());
+            EXPECT_LE(ventana->minimumSizeHint().height(), Pantalla.height());
+            ComprobarNombres(*ventana);
+            ComprobarOrden(*ventana);
+            ComprobarTextos(*ventana);
+            ComprobarSolapes(*ventana);
             EXPECT_EQ(guion.Cajas, Textos{});
         }
     }
@@ -188,32 +162,16 @@ TEST(Dialogos, EscapeElAspaYVolverCierranIgual) {
     }
 }
 
-TEST(Dialogos, Retratos) {
-    const QPalette clara = QApplication::palette();
-    for (const DialogoProbado& probado : Dialogos()) {
+TEST(Dialogos, LosTextosSeLeenEnClaroYEnOscuro) {
+    for (const VentanaProbada& probada : TodasLasVentanas())
         for (const bool oscuro : {false, true}) {
+            SCOPED_TRACE(probada.nombre + (oscuro ? " dark" : " light"));
+            const ConPaleta paleta(oscuro ? PaletaOscura() : QApplication::palette());
             Guion guion;
             for (FilaFiltro& fila : guion.sesion.condiciones.lstFiltros) fila.Activo = oscuro;
-            QApplication::setPalette(oscuro ? Oscura() : clara);
-            const auto dialogo = probado.crear(guion);
-            dialogo->show();
-            const QString nombre = Q(probado.nombre) + QLatin1String(oscuro ? "_oscuro" : "_claro");
-            Retratar(*dialogo, nombre, 1);
-            if (!oscuro) Retratar(*dialogo, nombre + QLatin1String("_200"), 2);
+            const auto ventana = probada.crear(guion);
+            ventana->show();
+            EsperarCuentas(*ventana);
+            EXPECT_EQ(TextosApagados(*ventana), Textos{});
         }
-    }
-    QApplication::setPalette(clara);
-}
-
-TEST(Dialogos, RetratosDeCadaJuego) {
-    for (const DialogoProbado& probado : Dialogos()) {
-        if (!probado.cambiaConJuego) continue;
-        for (const int juego : {PRIMITIVA, BONOLOTO, EURODREAMS}) {
-            Guion guion;
-            CambiarJuego(guion.sesion, juego);
-            const auto dialogo = probado.crear(guion);
-            dialogo->show();
-            Retratar(*dialogo, Q(probado.nombre) + Q("_") + Q(Juegos[static_cast<size_t>(juego)].Nombre), 1);
-        }
-    }
 }

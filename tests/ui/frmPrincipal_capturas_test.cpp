@@ -9,25 +9,10 @@
 
 #include "Guion.h"
 #include "Sesiones.h"
+#include "Temas.h"
 #include "Ventanas.h"
 
 namespace {
-
-QPalette PaletaOscura() {
-    QPalette paleta(QColor(0x35, 0x35, 0x38), QColor(0x2b, 0x2b, 0x2e));
-    paleta.setColor(QPalette::Base, QColor(0x1f, 0x1f, 0x22));
-    paleta.setColor(QPalette::PlaceholderText, QColor(0xa0, 0xa0, 0xa4));
-    paleta.setColor(QPalette::Highlight, QColor(0x2f, 0x65, 0xb0));
-    paleta.setColor(QPalette::HighlightedText, Qt::white);
-    return paleta;
-}
-
-// Restores the palette, whatever becomes of the test.
-struct ConPaleta {
-    explicit ConPaleta(const QPalette& paleta) { QApplication::setPalette(paleta); }
-    ~ConPaleta() { QApplication::setPalette(anterior); }
-    QPalette anterior = QApplication::palette();
-};
 
 void Capturar(QWidget& ventana, const std::string& nombre) {
     QDir().mkpath(Q(CAPTURAS));

@@ -353,24 +353,6 @@ TEST(frmPrincipal, ElPanelDeEsperaSigueAlFichero) {
     EXPECT_FALSE(panel->isVisible());
 }
 
-TEST(frmPrincipal, TodoTieneNombreParaElLectorDePantalla) {
-    Principal p;
-    p.PulsarNumeros({12});
-    const QAccessibleInterface* celda =
-        QAccessible::queryAccessibleInterface(Hijo<QToolButton>(p.ventana, "lblNumero_11"));
-    EXPECT_EQ(Utf8(celda->text(QAccessible::Name)), "Número 12");
-    EXPECT_TRUE(celda->state().checkable);
-    EXPECT_TRUE(celda->state().checked);
-    for (const QWidget* control : p.ventana.findChildren<QWidget*>()) {
-        const bool entrada = qobject_cast<const QAbstractButton*>(control) != nullptr ||
-                             qobject_cast<const QComboBox*>(control) != nullptr;
-        // Parts that the toolkit makes for itself have names of their own.
-        if (!entrada || !control->isVisible() || control->objectName().startsWith(Q("qt_"))) continue;
-        QAccessibleInterface* accesible = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(control));
-        EXPECT_FALSE(accesible->text(QAccessible::Name).isEmpty()) << Utf8(control->objectName());
-    }
-}
-
 // One step for a visit to a dialog, with whatever is done in it.
 TEST(frmPrincipal, DeshacerYRehacer) {
     Principal p;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Accesible.h"
 #include "Estilo.h"
 
 int main(int argc, char** argv) {
@@ -9,5 +10,6 @@ int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     QApplication aplicacion(argc, argv);
     QApplication::setStyle(new Estilo);
+    InstalarAccesibilidad();
     return RUN_ALL_TESTS();
 }

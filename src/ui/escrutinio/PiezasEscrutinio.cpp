@@ -4,14 +4,26 @@
 #include "MarcoFiltro.h"
 #include "TextoQt.h"
 
-void CrearPieEscrutinio(QBoxLayout& caja, std::initializer_list<QPushButton*> ordenes, QPushButton* imgVolver) {
+QWidget* CrearPieEscrutinio(QBoxLayout& caja, std::initializer_list<QPushButton*> ordenes, const PanelMarcha& marcha,
+                            QPushButton* imgVolver) {
+    auto* grupo = new QWidget;
+    auto* botones = new QHBoxLayout(grupo);
+    botones->setContentsMargins(0, 0, 0, 0);
+    for (QPushButton* orden : ordenes) botones->addWidget(orden);
+    (*ordenes.begin())->setDefault(true);
     auto* pie = new QHBoxLayout;
     pie->setContentsMargins(0, Paso, 0, 0);
-    for (QPushButton* orden : ordenes) pie->addWidget(orden);
-    (*ordenes.begin())->setDefault(true);
+    pie->setSpacing(Paso);
+    pie->addWidget(grupo);
     pie->addStretch();
+    if (marcha.cmdStop != nullptr) {
+        pie->addWidget(marcha.lblEstado);
+        pie->addWidget(marcha.lblProgressBar, 1);
+        pie->addWidget(marcha.cmdStop);
+    }
     pie->addWidget(imgVolver);
     caja.addLayout(pie);
+    return grupo;
 }
 
 QLabel* CrearCifra(std::string_view nombre, std::string_view accesible, std::string_view masAncho) {
@@ -26,21 +38,16 @@ QLabel* CrearCifra(std::string_view nombre, std::string_view accesible, std::str
     return cifra;
 }
 
-PanelMarcha CrearPanelMarcha(QBoxLayout& donde, std::string_view ayudaStop, std::function<void()> alParar) {
+PanelMarcha CrearPanelMarcha(std::string_view ayudaStop, std::function<void()> alParar) {
     PanelMarcha panel;
     panel.lblEstado = new QLabel;
-    panel.lblEstado->setObjectName(Q("lblEstado"));
+    panel.lblEstado->setObjectName(Q("lblEscrutando"));
+    panel.lblEstado->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     panel.lblEstado->setMinimumWidth(
         panel.lblEstado->fontMetrics().horizontalAdvance(Q("Escrutando Fichero 1000 (13983816 Apu.)")) + 4);
     panel.lblProgressBar = CrearBarraProgreso("Avance del escrutinio");
     panel.lblProgressBar->setTextVisible(false);
     panel.cmdStop = CrearBoton("cmdStop", "Detener", ayudaStop, std::move(alParar));
-    auto* fila = new QHBoxLayout;
-    fila->setSpacing(Paso);
-    fila->addWidget(panel.lblEstado);
-    fila->addWidget(panel.lblProgressBar, 1);
-    fila->addWidget(panel.cmdStop);
-    donde.addLayout(fila);
     return panel;
 }
 

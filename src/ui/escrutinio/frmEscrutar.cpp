@@ -224,7 +224,7 @@ void frmEscrutar::CrearPie(QVBoxLayout& caja) {
                                    [this] { AbrirCalculadora(); }),
                         CrearBoton("cmdCopiar", "Copiar", "Copiar los resultados como una tabla",
                                    [this] { AlPortapapeles(logica.Copiar()); })},
-                       CrearBoton("imgVolver", "Cerrar", "Cerrar el escrutinio", [this] { close(); }));
+                       {}, CrearBoton("imgVolver", "Cerrar", "Cerrar el escrutinio", [this] { close(); }));
 }
 
 void frmEscrutar::Hacer(const std::function<void()>& accion) {

@@ -72,9 +72,7 @@ frmMultiEscrutinioEstadistico::frmMultiEscrutinioEstadistico(Sesion& sesion, Ent
     CrearConsulta(*izquierda);
     izquierda->addStretch();
     CrearResultados(*columnas);
-    CrearPie(*caja);
-    marcha = CrearPanelMarcha(*fuera, "Detener el escrutinio y quedarse con los sorteos ya escrutados",
-                              [this] { logica.cmdStop(); });
+    CrearPie(*fuera);
     AceptarFicheros(
         *this, false, [this] { return !logica.Ocupada(); },
         [this](const auto& rutas) { Hacer([&] { logica.CargarApuestas(rutas.front()); }); });
@@ -141,14 +139,17 @@ void frmMultiEscrutinioEstadistico::CrearResultados(QBoxLayout& donde) {
 void frmMultiEscrutinioEstadistico::CrearPie(QBoxLayout& caja) {
     imgCopiar = CrearBoton("imgCopiar", "Copiar tabla", "Copiar los sorteos escrutados como una tabla",
                            [this] { AlPortapapeles(Tabla()); });
-    CrearPieEscrutinio(
+    marcha = CrearPanelMarcha("Detener el escrutinio y quedarse con los sorteos ya escrutados",
+                              [this] { logica.cmdStop(); });
+    imgVolver = CrearBoton("imgVolver", "Cerrar", "Cerrar el escrutinio", [this] { close(); });
+    ordenes = CrearPieEscrutinio(
         caja,
         {CrearBoton("cmdEscrutar", "Escrutar", "Escrutar las apuestas en los sorteos de la consulta",
                     [this] { Hacer([this] { logica.cmdEscrutar(); }); }),
          CrearBoton("imgVerInforme", "Ver Informe en Bloc de Notas", "Muestra en el Bloc de Notas el informe completo",
                     [this] { Hacer([this] { logica.imgVerInforme(); }); }),
          imgCopiar},
-        CrearBoton("imgVolver", "Cerrar", "Cerrar el escrutinio", [this] { close(); }));
+        marcha, imgVolver);
 }
 
 std::string frmMultiEscrutinioEstadistico::Tabla() const {
@@ -166,7 +167,7 @@ void frmMultiEscrutinioEstadistico::reject() {
 
 void frmMultiEscrutinioEstadistico::Pintar() {
     if (logica.Ocupada() && cuerpo->isEnabled()) focoAnterior = focusWidget();
-    cuerpo->setEnabled(!logica.Ocupada());
+    for (QWidget* w : std::initializer_list<QWidget*>{cuerpo, ordenes, imgVolver}) w->setEnabled(!logica.Ocupada());
     cboTipoJuego->setCurrentIndex(logica.cboTipoJuego);
     lblSorteosCargados->setText(Q(logica.lblSorteosCargados));
     lblTemporadaDESDE->setText(Q(logica.lblTemporadaDESDE));

@@ -33,7 +33,7 @@ class frmMultiEscrutinioEstadistico final : public QDialog {
     void Hacer(const std::function<void()>& accion);
 
     LogicaMultiEscrutinioEstadistico logica;
-    QWidget* cuerpo = nullptr; ///< all but the stop: disabled during a run
+    QWidget *cuerpo = nullptr, *ordenes = nullptr; ///< disabled during a run, with `imgVolver`
     QPointer<QWidget> focoAnterior;
     QComboBox* cboTipoJuego = nullptr;
     QLabel *lblSorteosCargados = nullptr, *lblTemporadaDESDE = nullptr, *lblSorteoDESDE = nullptr;
@@ -41,6 +41,6 @@ class frmMultiEscrutinioEstadistico final : public QDialog {
     FilaFichero fichero;
     RejillaConsulta consulta;
     QPlainTextEdit* txtDatos = nullptr;
-    QPushButton* imgCopiar = nullptr;
+    QPushButton *imgCopiar = nullptr, *imgVolver = nullptr;
     PanelMarcha marcha;
 };

@@ -32,10 +32,7 @@ frmMultiEscrutinioMultiFichero::frmMultiEscrutinioMultiFichero(Sesion& sesion, E
     CrearSorteos(*caja);
     CrearFicheros(*caja);
     CrearResultados(*caja);
-    CrearPie(*caja);
-    marcha = CrearPanelMarcha(*fuera, "Saltar el fichero que se está escrutando y seguir con el siguiente",
-                              [this] { logica.cmdStop(); });
-    marcha.lblEstado->setObjectName(Q("lblEscrutando"));
+    CrearPie(*fuera);
     AceptarFicheros(
         *this, true, [this] { return !logica.Ocupada(); },
         [this](const auto& rutas) { Hacer([&] { logica.AnadirFicheros(rutas); }); });
@@ -116,13 +113,17 @@ void frmMultiEscrutinioMultiFichero::CrearResultados(QBoxLayout& donde) {
 void frmMultiEscrutinioMultiFichero::CrearPie(QBoxLayout& caja) {
     imgCopiar = CrearBoton("imgCopiar", "Copiar tabla", "Copiar los ficheros y sus aciertos como una tabla",
                            [this] { AlPortapapeles(Tabla()); });
-    CrearPieEscrutinio(caja,
-                       {CrearBoton("imgEscrutar", "Escrutar", "Escrutar todos los ficheros de la lista",
-                                   [this] { Hacer([this] { logica.imgEscrutar(); }); }),
-                        CrearBoton("imgVerInformeResumenPremios", "Ver Informe", "Ver el resultado en un informe",
-                                   [this] { Hacer([this] { logica.imgVerInformeResumenPremios(); }); }),
-                        imgCopiar},
-                       CrearBoton("imgVolver", "Volver", "Cerrar el escrutinio", [this] { close(); }));
+    marcha = CrearPanelMarcha("Saltar el fichero que se está escrutando y seguir con el siguiente",
+                              [this] { logica.cmdStop(); });
+    imgVolver = CrearBoton("imgVolver", "Cerrar", "Cerrar el escrutinio", [this] { close(); });
+    ordenes =
+        CrearPieEscrutinio(caja,
+                           {CrearBoton("imgEscrutar", "Escrutar", "Escrutar todos los ficheros de la lista",
+                                       [this] { Hacer([this] { logica.imgEscrutar(); }); }),
+                            CrearBoton("imgVerInformeResumenPremios", "Ver Informe", "Ver el resultado en un informe",
+                                       [this] { Hacer([this] { logica.imgVerInformeResumenPremios(); }); }),
+                            imgCopiar},
+                           marcha, imgVolver);
 }
 
 std::string frmMultiEscrutinioMultiFichero::Tabla() const {
@@ -155,7 +156,7 @@ void frmMultiEscrutinioMultiFichero::PintarFicheros() {
 
 void frmMultiEscrutinioMultiFichero::Pintar() {
     if (logica.Ocupada() && cuerpo->isEnabled()) focoAnterior = focusWidget();
-    cuerpo->setEnabled(!logica.Ocupada());
+    for (QWidget* w : std::initializer_list<QWidget*>{cuerpo, ordenes, imgVolver}) w->setEnabled(!logica.Ocupada());
     PintarFilaFichero(sorteos, logica.txtFicheroASCIISORTEOS, logica.lblApuCargadas);
     if (!logica.Corriendo) PintarFicheros();
     chkTipoListadoPremios->setChecked(logica.chkTipoListadoPremios);

@@ -33,13 +33,13 @@ class frmMultiEscrutinioMultiFichero final : public QDialog {
     void PintarFicheros();
 
     LogicaMultiEscrutinioMultiFichero logica;
-    QWidget* cuerpo = nullptr; ///< all but the stop: disabled during a run
+    QWidget *cuerpo = nullptr, *ordenes = nullptr; ///< disabled during a run, with `imgVolver`
     QPointer<QWidget> focoAnterior;
     FilaFichero sorteos;
     QListWidget* lstFicheros = nullptr;
     QLabel *lblFicheros = nullptr, *lblEstado = nullptr, *lblImportando = nullptr;
     QCheckBox* chkTipoListadoPremios = nullptr;
     QPlainTextEdit* txtInforme = nullptr;
-    QPushButton* imgCopiar = nullptr;
+    QPushButton *imgCopiar = nullptr, *imgVolver = nullptr;
     PanelMarcha marcha;
 };

@@ -19,13 +19,6 @@ QVBoxLayout* Columna(QWidget* caja) {
     return columna;
 }
 
-// Shows marks and takes none: neither the mouse nor the keyboard reaches the cells.
-void HacerSoloParaVer(const RejillaNumeros& rejilla) {
-    rejilla.papel->setAttribute(Qt::WA_TransparentForMouseEvents);
-    for (QToolButton* celda : rejilla.numero)
-        if (celda != nullptr) celda->setFocusPolicy(Qt::NoFocus);
-}
-
 QLabel* Etiqueta(std::string_view nombre, size_t i, Qt::Alignment lado) {
     auto* etiqueta = new QLabel;
     etiqueta->setObjectName(NombreIndexado(nombre, static_cast<int>(i)));
@@ -66,7 +59,6 @@ frmAlgebra::frmAlgebra(Sesion& sesion, Entorno& entorno, QWidget* padre) : QDial
         *this, true, [this] { return logica.PuedeCerrar(); },
         [this](const std::vector<std::string>& rutas) { logica.Soltar(rutas), Pintar(); });
     Pintar();
-    for (const PanelSistema& s : sistemas) HacerSoloParaVer(s.rejilla);
     AjustarTamanio(*this);
 }
 
@@ -88,7 +80,7 @@ QWidget* frmAlgebra::CrearSistema(size_t i) {
     cuentas->addWidget(s.txtApuCargadas, 1);
     cuentas->addWidget(s.lblTipoCombinacion);
     columna->addLayout(cuentas);
-    s.rejilla = CrearRejillaNumeros(caja, NombreCeldas[i], {[](int) {}, {}, {}});
+    s.rejilla = CrearRejillaNumeros(caja, NombreCeldas[i], {});
     columna->addWidget(s.rejilla.papel, 1);
     AceptarFicheros(
         *caja, false, [this] { return logica.PuedeCerrar(); },
@@ -150,6 +142,7 @@ void frmAlgebra::CrearResultados(QBoxLayout& donde) {
     auto* columna = Columna(caja);
     txtVentanaResultados = CrearTextoFijo(
         "txtVentanaResultados", "Resultados", [this] { return logica.Copiar(); }, [](int linea) { return linea; });
+    txtVentanaResultados->setLineWrapMode(QPlainTextEdit::WidgetWidth); // sentences, not columns
     txtVentanaResultados->setMinimumSize(AnchoResultados,
                                          LineasResultados * txtVentanaResultados->fontMetrics().lineSpacing());
     columna->addWidget(txtVentanaResultados, 1);

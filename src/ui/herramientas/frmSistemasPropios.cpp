@@ -73,9 +73,7 @@ void frmSistemasPropios::CrearOrigen(QHBoxLayout& fila) {
     QVBoxLayout* columna = Columna(fila, lblTitNumerosORIGEN, "Sistema Origen", "lblTitNumerosORIGEN");
     auto* dos = new QHBoxLayout;
     dos->setSpacing(Paso);
-    origen = CrearRejillaNumeros(this, "lblNumero", {[this](int) { Pintar(); }, {}, {}});
-    for (QToolButton* celda : origen.numero)
-        if (celda != nullptr) celda->setFocusPolicy(Qt::NoFocus);
+    origen = CrearRejillaNumeros(this, "lblNumero", {});
     txtPorcentajesNumeros = CrearTextoFijo("txtPorcentajesNumeros", "Porcentaje de apuestas de cada número de origen",
                                            [this] { return logica.TextoTabla(); });
     txtPorcentajesNumeros->setFixedWidth(txtPorcentajesNumeros->fontMetrics().horizontalAdvance(Q("00-00,00%")) + 40);

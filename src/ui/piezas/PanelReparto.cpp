@@ -74,12 +74,13 @@ PanelReparto::PanelReparto(PeticionReparto peticion) : peticion_(std::move(petic
     lblPasan = CrearLinea("lblPasan");
     lblPasanJuntas = CrearLinea("lblPasanJuntas");
     auto* pie = new QBoxLayout(peticion_.Apaisado ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    pie->setSpacing(Paso / 2);
+    pie->setSpacing(peticion_.Apaisado ? 2 * Paso : Paso / 2);
     (peticion_.Apaisado ? pie : columna)->addWidget(cboApartado);
     columna->addWidget(grafico, 1);
     columna->addLayout(pie);
     pie->addWidget(lblPasan);
     pie->addWidget(lblPasanJuntas);
+    if (peticion_.Apaisado) pie->addStretch();
 }
 
 PanelReparto::~PanelReparto() = default;

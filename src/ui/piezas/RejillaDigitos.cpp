@@ -12,6 +12,7 @@ RejillaDigitos CrearRejillaDigitos(QWidget* padre, std::string_view nombre, std:
     r.papel = new QFrame(padre);
     r.papel->setObjectName(Q("papel"));
     r.papel->setStyleSheet(EstiloBoleto());
+    r.papel->setAccessibleName(Q("Dígitos"));
     auto* fila = new QHBoxLayout(r.papel);
     fila->setContentsMargins(6, 6, 6, 6);
     fila->setSpacing(3);

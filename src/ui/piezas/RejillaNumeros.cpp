@@ -1,8 +1,11 @@
 #include "RejillaNumeros.h"
 
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVariant>
+
+#include <vector>
 
 #include "TextoQt.h"
 #include "tema.h"
@@ -10,6 +13,16 @@
 namespace {
 
 constexpr int LadoCelda = 30, LadoSerie = 24;
+
+// A grid that only shows: tips go on, presses do nothing.
+class SinRaton final : public QObject {
+  public:
+    using QObject::QObject;
+    bool eventFilter(QObject*, QEvent* evento) override {
+        return evento->type() == QEvent::MouseButtonPress || evento->type() == QEvent::MouseButtonRelease ||
+               evento->type() == QEvent::MouseButtonDblClick;
+    }
+};
 
 QToolButton* CrearSerie(QWidget* papel, std::string_view nombre, int indice, const QString& consejo,
                         const std::function<void(int)>& orden) {
@@ -81,6 +94,23 @@ void ColocarSeriesFilas(RejillaNumeros& r) {
     r.rejilla->addWidget(r.series, 8, 0, 2, 5);
 }
 
+// The Tab key follows the eye: what stands over the numbers or at their left, the numbers, what is below.
+void OrdenarTabulador(const RejillaNumeros& r, bool columnas) {
+    std::vector<QWidget*> orden;
+    const auto poner = [&orden](auto desde, auto hasta) { orden.insert(orden.end(), desde, hasta); };
+    if (columnas) {
+        poner(r.columna.begin(), r.columna.end());
+        orden.push_back(r.fila[9]); // of the numbers that end in 0, the first row
+        poner(r.fila.begin(), r.fila.end() - 1);
+    }
+    poner(r.numero.begin() + 1, r.numero.end());
+    if (!columnas) {
+        poner(r.fila.begin(), r.fila.end());
+        poner(r.columna.begin(), r.columna.end());
+    }
+    for (size_t i = 1; i < orden.size(); ++i) QWidget::setTabOrder(orden[i - 1], orden[i]);
+}
+
 void Colocar(RejillaNumeros& r, int maximo) {
     const bool columnas = maximo == NumeroMaximoBoleto;
     const bool conSeries = r.fila[0] != nullptr;
@@ -93,6 +123,7 @@ void Colocar(RejillaNumeros& r, int maximo) {
         columnas ? ColocarSeriesColumnas(r) : ColocarSeriesFilas(r);
         for (auto* boton : r.fila) boton->show();
         for (auto* boton : r.columna) boton->show();
+        OrdenarTabulador(r, columnas);
     }
     const int margen = columnas && conSeries ? 1 : 0;
     for (int c = 0; c <= 5; ++c) r.rejilla->setColumnStretch(c, c >= margen && c < margen + 5 ? 1 : 0);
@@ -102,7 +133,7 @@ void Colocar(RejillaNumeros& r, int maximo) {
         if (n > maximo) continue;
         const int fila = columnas ? n % 10 : (n - 1) / 5, columna = columnas ? n / 10 : (n - 1) % 5;
         r.rejilla->addWidget(celda, fila + margen, columna + margen);
-        r.gestor->Poner(celda, fila, columna);
+        if (r.gestor != nullptr) r.gestor->Poner(celda, fila, columna);
     }
     r.maximo = maximo;
 }
@@ -117,6 +148,11 @@ QToolButton* CrearCelda(QWidget* papel, const QString& nombre, const QString& te
     celda->setCheckable(true);
     celda->setMinimumSize(LadoCelda, LadoCelda);
     celda->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    // Its name says its state.
+    QObject::connect(celda, &QToolButton::toggled, celda, [celda] {
+        QAccessibleEvent cambio(celda, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&cambio);
+    });
     return celda;
 }
 
@@ -128,11 +164,19 @@ RejillaNumeros CrearRejillaNumeros(QWidget* padre, std::string_view nombre, cons
     r.rejilla = new QGridLayout(r.papel);
     r.rejilla->setContentsMargins(8, 8, 8, 8);
     r.rejilla->setSpacing(3);
-    r.gestor = new GestorCeldas(r.papel);
+    r.papel->setAccessibleName(Q("Boleto"));
+    const bool soloParaVer = !ordenes.numero;
+    if (!soloParaVer) r.gestor = new GestorCeldas(r.papel);
+    auto* sinRaton = new SinRaton(r.papel);
     for (int n = 1; n <= NumeroMaximoBoleto; ++n) {
         QToolButton* celda =
             CrearCelda(r.papel, NombreIndexado(nombre, n - 1), QString::number(n), Q("Número ") + QString::number(n));
-        QObject::connect(celda, &QToolButton::clicked, r.papel, [orden = ordenes.numero, n] { orden(n); });
+        if (soloParaVer) {
+            celda->setFocusPolicy(Qt::NoFocus);
+            celda->installEventFilter(sinRaton);
+        } else {
+            QObject::connect(celda, &QToolButton::clicked, r.papel, [orden = ordenes.numero, n] { orden(n); });
+        }
         r.numero[static_cast<size_t>(n)] = celda;
     }
     if (ordenes.fila && ordenes.columna) CrearSeries(r, ordenes);

@@ -1,13 +1,15 @@
 #!/usr/bin/env python3
-"""Sizes of reduced systems: the first cycle, a minute of cycles, and what --mejorar makes of the first.
+"""Sizes of reduced systems: the first cycle, some seconds of cycles, and what --mejorar makes of the first.
 
     bench/mejora.py build/release/src/lote/tombolera-lote --segundos 60 --semillas 5 12/5 15/4 cond20/3
 
-A case is NUMBERS/HITS, or condNUMBERS/HITS for one of the conditioned bases below. Each run is one process on
-one core; the table says the median over the seeds, and of how many conditioned bets."""
+A case is NUMBERS/HITS, or condNUMBERS/HITS for one of the conditioned bases below; without any, all with a size that is
+publicly known. Each run is one process on one core and ends when it reaches that size. The table says the median
+over the seeds of the size and of the CPU time of whole runs, every size that came, and the proved bound."""
 import argparse
 import os
 import re
+import resource
 import statistics
 import subprocess
 import tempfile
@@ -16,6 +18,16 @@ EJEMPLO = os.path.join(os.path.dirname(__file__), '..', 'share', 'ejemplos', 'do
 
 # numbers: even numbers among the six, sum of the six
 CONDICIONES = {12: ('2,3,4', '21-57'), 15: ('2,3,4', '38-58'), 18: ('3', '45-69'), 20: ('2,3,4', '50-76')}
+
+# the smallest systems publicly known, by hits and numbers
+CONOCIDOS = {
+    5: {8: 4, 9: 7, 10: 14, 11: 22, 12: 38, 13: 61, 14: 98, 15: 142, 16: 223, 17: 332, 18: 471, 19: 646, 20: 844},
+    4: {9: 3, 11: 5, 12: 6, 13: 10, 14: 14, 15: 19, 16: 25, 17: 33, 18: 42, 19: 53, 20: 66},
+    3: {12: 2, 13: 2, 14: 4, 15: 4, 16: 5, 17: 6, 18: 7, 19: 9, 20: 10, 49: 163},
+    2: {15: 2, 19: 3, 20: 3, 40: 12, 49: 19},
+}
+CONOCIDOS_CONDICIONADAS = {5: {12: 36, 15: 135, 18: 280, 20: 769}, 4: {12: 6, 15: 17, 18: 37, 20: 74},
+                           3: {12: 2, 15: 4, 18: 7, 20: 13}}
 
 
 def base(numeros, aciertos, condicionada):
@@ -37,31 +49,49 @@ def base(numeros, aciertos, condicionada):
 
 
 def calcular(lote, fichero, *opciones):
+    """The counts that the run prints, and its CPU time in seconds."""
+    antes = resource.getrusage(resource.RUSAGE_CHILDREN)
     salida = subprocess.run([lote, 'calcular', fichero, *opciones], capture_output=True, text=True, check=True).stdout
-    return {k: int(v) for k, v in re.findall(r'^(\w+): (\d+)$', salida, re.M)}
+    ahora = resource.getrusage(resource.RUSAGE_CHILDREN)
+    cuentas = {k: int(v) for k, v in re.findall(r'^(\w+): (\d+)$', salida, re.M)}
+    return cuentas, ahora.ru_utime + ahora.ru_stime - antes.ru_utime - antes.ru_stime
+
+
+def fila(o, caso):
+    nombre, aciertos = caso.split('/')
+    numeros, condicionada = int(nombre.removeprefix('cond')), nombre.startswith('cond')
+    conocido = (CONOCIDOS_CONDICIONADAS if condicionada else CONOCIDOS).get(int(aciertos), {}).get(numeros)
+    with tempfile.NamedTemporaryFile('w', suffix='.xml', encoding='utf-8') as f:
+        f.write(base(numeros, int(aciertos), condicionada))
+        f.flush()
+        uno, _ = calcular(o.lote, f.name)
+        ciclos = calcular(o.lote, f.name, '--segundos', str(o.ciclos))[0]['Reducidas'] if o.ciclos else '-'
+        meta = ['--mejorar-hasta', str(conocido)] if conocido else []
+        corridas = [calcular(o.lote, f.name, '--mejorar', str(o.segundos), '--mejorar-semilla', str(s), *meta)
+                    for s in range(1, o.semillas + 1)]
+    tamanos = [cuentas['Reducidas'] for cuentas, _ in corridas]
+    tiempo = statistics.median_low(segundos for _, segundos in corridas)
+    return (f"| {nombre} | {aciertos} | {uno['Condicionadas']} | {uno['Reducidas']} | {ciclos} "
+            f"| {statistics.median_low(tamanos)} ({tiempo:.1f}) | {' '.join(map(str, tamanos))} | {conocido or '-'} "
+            f"| {max(cuentas['Cota'] for cuentas, _ in corridas)} |")
+
+
+def todos():
+    return ([f'{n}/{a}' for a, bases in CONOCIDOS.items() for n in bases] +
+            [f'cond{n}/{a}' for a, bases in CONOCIDOS_CONDICIONADAS.items() for n in bases])
 
 
 def main():
     a = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     a.add_argument('lote')
-    a.add_argument('casos', nargs='+')
-    a.add_argument('--segundos', type=int, default=60)
+    a.add_argument('casos', nargs='*')
+    a.add_argument('--segundos', type=int, default=60, help='of the clock')
     a.add_argument('--semillas', type=int, default=1)
-    a.add_argument('--ciclos', action='store_true', help='also the best of as many seconds of cycles')
+    a.add_argument('--ciclos', type=int, default=0, metavar='S', help='also the best of S seconds of cycles')
     o = a.parse_args()
-    print('| Base | Al | Condicionadas | Un ciclo | Ciclos | Mejorado |\n|---|---|---|---|---|---|')
-    for caso in o.casos:
-        nombre, aciertos = caso.split('/')
-        numeros = int(nombre.removeprefix('cond'))
-        with tempfile.NamedTemporaryFile('w', suffix='.xml', encoding='utf-8') as f:
-            f.write(base(numeros, int(aciertos), nombre.startswith('cond')))
-            f.flush()
-            uno = calcular(o.lote, f.name)
-            ciclos = calcular(o.lote, f.name, '--segundos', str(o.segundos))['Reducidas'] if o.ciclos else '-'
-            mejorados = [calcular(o.lote, f.name, '--mejorar', str(o.segundos), '--mejorar-semilla', str(s))['Reducidas']
-                         for s in range(1, o.semillas + 1)]
-        print(f"| {nombre} | {aciertos} | {uno['Condicionadas']} | {uno['Reducidas']} | {ciclos} "
-              f'| {statistics.median_low(mejorados)} |', flush=True)
+    print('| Base | Al | Condicionadas | Un ciclo | Ciclos | Mejorado (s) | Semillas | Conocido | Cota |\n' + '|---' * 9 + '|')
+    for caso in o.casos or todos():
+        print(fila(o, caso), flush=True)
 
 
 if __name__ == '__main__':

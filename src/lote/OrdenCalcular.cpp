@@ -19,7 +19,7 @@ struct ArgumentosCalcular {
     ArgumentosBase Partida;
     std::string Guardar, Texto, Condicionadas;
     int32_t Ciclos = 0, Segundos = 0; ///< ends of a reduction, 0 where none was given
-    int32_t Mejorar = 0, MejorarPasos = 0, MejorarSemilla = 1;
+    int32_t Mejorar = 0, MejorarPasos = 0, MejorarSemilla = 1, MejorarHasta = 0;
     bool Json = false;
 };
 
@@ -32,24 +32,28 @@ std::vector<std::pair<std::string, int32_t>> Eliminadas(const Condiciones& condi
     return cuentas;
 }
 
-std::string CuentasComoTexto(const Sesion& sesion, int64_t ciclos) {
+std::string CuentasComoTexto(const Lote& lote) {
+    const Sesion& sesion = lote.sesion;
     const Contadores& contador = sesion.trabajo.Contador;
     std::string texto = fmt::format("Iniciales: {}\nCondicionadas: {}\nReducidas: {}\nCiclos: {}\n", contador.Iniciales,
-                                    contador.Condicionadas, contador.Reducidas, ciclos);
+                                    contador.Condicionadas, contador.Reducidas, lote.Ciclos);
+    if (lote.Cota > 0) texto += fmt::format("Cota: {}\n", lote.Cota);
     for (const auto& [nombre, cuenta] : Eliminadas(sesion.condiciones))
         texto += fmt::format("Eliminadas {}: {}\n", nombre, cuenta);
     return texto;
 }
 
-std::string CuentasComoJson(const Sesion& sesion, int64_t ciclos) {
+std::string CuentasComoJson(const Lote& lote) {
+    const Sesion& sesion = lote.sesion;
     const Contadores& contador = sesion.trabajo.Contador;
     nlohmann::ordered_json eliminadas = nlohmann::ordered_json::object();
     for (const auto& [nombre, cuenta] : Eliminadas(sesion.condiciones)) eliminadas[nombre] = cuenta;
-    const nlohmann::ordered_json cuentas = {{"iniciales", contador.Iniciales},
-                                            {"condicionadas", contador.Condicionadas},
-                                            {"reducidas", contador.Reducidas},
-                                            {"ciclos", ciclos},
-                                            {"eliminadas", eliminadas}};
+    nlohmann::ordered_json cuentas = {{"iniciales", contador.Iniciales},
+                                      {"condicionadas", contador.Condicionadas},
+                                      {"reducidas", contador.Reducidas},
+                                      {"ciclos", lote.Ciclos},
+                                      {"eliminadas", eliminadas}};
+    if (lote.Cota > 0) cuentas["cota"] = lote.Cota;
     return cuentas.dump() + "\n";
 }
 
@@ -75,12 +79,11 @@ bool Calcular(Lote& lote, const ArgumentosCalcular& argumentos) {
     const bool mejorar = argumentos.Mejorar > 0 || argumentos.MejorarPasos > 0;
     if (mejorar && !ReduccionMejorable(lote.sesion, lote.entorno)) return false;
     const FinesMejora mejora{static_cast<double>(argumentos.Mejorar), argumentos.MejorarPasos,
-                             static_cast<uint64_t>(argumentos.MejorarSemilla)};
+                             static_cast<uint64_t>(argumentos.MejorarSemilla), argumentos.MejorarHasta};
     PrepararReduccion(lote, {argumentos.Ciclos, argumentos.Segundos, mejorar, mejora});
     if (!CalcularSistema(lote.sesion, lote.entorno)) return false;
     const bool guardado = GuardarFicheros(lote, argumentos);
-    lote.salida.Escribir(argumentos.Json ? CuentasComoJson(lote.sesion, lote.Ciclos)
-                                         : CuentasComoTexto(lote.sesion, lote.Ciclos));
+    lote.salida.Escribir(argumentos.Json ? CuentasComoJson(lote) : CuentasComoTexto(lote));
     return guardado;
 }
 
@@ -99,6 +102,7 @@ void DeclararCalcular(CLI::App& programa, Lote& lote) {
     Entero(orden, "--mejorar-pasos", argumentos->MejorarPasos, 1,
            "Pasos de esa búsqueda, en lugar de los segundos o con ellos: se repite igual");
     Entero(orden, "--mejorar-semilla", argumentos->MejorarSemilla, 1, "Semilla de esa búsqueda; si falta, 1");
+    Entero(orden, "--mejorar-hasta", argumentos->MejorarHasta, 1, "Apuestas que bastan: acaba al llegar a tan pocas");
     Fichero(orden, "--guardar", argumentos->Guardar, "Graba el sistema final, y a su lado su fichero base");
     Fichero(orden, "--texto", argumentos->Texto, "Escribe las apuestas finales, doce cifras por línea");
     Fichero(orden, "--condicionadas", argumentos->Condicionadas, "Escribe igual las apuestas condicionadas");

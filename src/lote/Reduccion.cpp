@@ -40,5 +40,6 @@ void PrepararReduccion(Lote& lote, FinesReduccion fines) {
     lote.entorno.MostrarVentanaProceso = [&lote, fines](LogicaVentanaProceso& ventana) {
         Correr(ventana, lote, fines);
         lote.Ciclos = static_cast<int64_t>(ventana.CicloActual);
+        lote.Cota = ventana.Cota;
     };
 }

@@ -15,6 +15,7 @@ struct FinesMejora {
     double Segundos = 0;
     int64_t Pasos = 0;
     uint64_t Semilla = 1;
+    int32_t Apuestas = 0; ///< so few are enough
 };
 
 struct LogicaVentanaProceso {

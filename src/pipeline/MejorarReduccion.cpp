@@ -33,6 +33,11 @@ Garantia LaPedida(const LogicaVentanaProceso& vp, const std::vector<uint64_t>& s
     return garantia;
 }
 
+void MostrarCota(LogicaVentanaProceso& vp, int32_t cota) {
+    vp.Cota = cota;
+    vp.lblCota = FormatoMiles(cota, vp.entorno.SeparadorMiles);
+}
+
 } // namespace
 
 bool ReduccionMejorable(const Sesion& sesion, Entorno& entorno) {
@@ -55,13 +60,14 @@ void MejorarReduccion(LogicaVentanaProceso& vp) {
     Mejora mejora(trabajo.ApuestasCondicionadas, trabajo.NumerosBase, garantia, fines.Semilla);
     if (!mejora.PartirDe(sistema, [&vp] { return vp.Turno(0); })) return;
     if (garantia.Exigido < vp.NApuestasReduccion && vp.PorNumero && !mejora.FijarApuestas(vp.NApuestas)) return;
-    vp.Cota = mejora.Cota();
-    vp.lblCota = FormatoMiles(vp.Cota, vp.entorno.SeparadorMiles);
+    MostrarCota(vp, mejora.Cota());
     if (mejora.Sistema() != sistema) vp.TomarMejorado(mejora.Sistema());
     for (vp.PasosMejora = 0; !mejora.Terminada() && vp.Turno(0); vp.PasosMejora += PasosPorTurno) {
         vp.SegundosMejora = std::chrono::duration<double>(Reloj::now() - comienzo).count();
         if (fines.Segundos > 0 && vp.SegundosMejora >= fines.Segundos) break;
         if (fines.Pasos > 0 && vp.PasosMejora >= fines.Pasos) break;
+        if (mejora.Apuestas() <= fines.Apuestas) break;
         if (mejora.Pasos(PasosPorTurno)) vp.TomarMejorado(mejora.Sistema());
+        if (mejora.Cota() > vp.Cota) MostrarCota(vp, mejora.Cota());
     }
 }

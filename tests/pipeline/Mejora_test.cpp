@@ -114,6 +114,41 @@ TEST(Mejora, LlegaALosSistemasMasPequenos) {
     }
 }
 
+// Whether some `cuantas` of the bets meet the guarantee, trying them all.
+bool HaySistema(const Caso& caso, size_t cuantas, std::vector<uint64_t>& elegidas, int64_t desde) {
+    if (elegidas.size() == cuantas) return caso.Cumple(elegidas);
+    for (int64_t i = desde; i <= caso.apuestas.Apuestas(); ++i) {
+        elegidas.push_back(caso.Mascara(i));
+        const bool hay = HaySistema(caso, cuantas, elegidas, i + 1);
+        elegidas.pop_back();
+        if (hay) return true;
+    }
+    return false;
+}
+
+TEST(Mejora, LaCotaEsLaDelSistemaMasPequeno) {
+    Dado dado(4);
+    for (int i = 0; i < 30; ++i) {
+        const Caso caso(i < 3 ? 8 : 9 + i % 4, i < 3 ? 5 - i : 2 + i % 4, i < 3 ? 1 : 8 << i % 4, 100, dado);
+        if (caso.apuestas.Apuestas() == 0) continue;
+        Mejora mejora(caso.apuestas, caso.n, caso.garantia, 1);
+        ASSERT_TRUE(mejora.PartirDe(caso.Barrida()));
+        mejora.Pasos(100000);
+        if (mejora.Cota() > 5) continue;
+        SCOPED_TRACE("caso " + std::to_string(i));
+        EXPECT_EQ(mejora.Apuestas(), mejora.Cota());
+        std::vector<uint64_t> elegidas;
+        EXPECT_FALSE(HaySistema(caso, static_cast<size_t>(mejora.Cota()) - 1, elegidas, 1));
+    }
+    for (const auto& [n, t, cota] : {std::array{8, 5, 4}, {9, 5, 7}, {9, 4, 3}}) {
+        const Caso caso(n, t, 1, 100, dado);
+        Mejora mejora(caso.apuestas, n, caso.garantia, 1);
+        ASSERT_TRUE(mejora.PartirDe(caso.Barrida()));
+        mejora.Pasos(400000);
+        EXPECT_EQ(mejora.Cota(), cota) << n << " al " << t;
+    }
+}
+
 TEST(Mejora, LosMismosPasosDanElMismoSistemaTambienPorPartes) {
     Dado dado(5);
     for (const int uno : {1, 3}) {

@@ -42,14 +42,17 @@ bool Cartera::Anotar(const Rama& rama) {
     return true;
 }
 
-// As much work goes into new symmetries as into those that stand.
+// As much work goes into new symmetries as into those that stand. One that was relaxed has to be better than where it
+// came from at the end of its first turn, when it is the last in the list.
 void Cartera::ElegirRama() {
+    if (actual_ != nullptr && actual_->busqueda->MejorCoste() >= actual_->heredado) ramas_.pop_back();
     actual_ = nullptr;
     while (actual_ == nullptr && fallidas_ < MaximoFallidas &&
            (ramas_.size() < MinimoRamas || explorado_ <= trabajo_ / 2))
         Explorar();
     if (actual_ == nullptr && !ramas_.empty()) {
         actual_ = LaQueMerece();
+        actual_->heredado = SinHerencia;
         finTurno_ = actual_->trabajo + TrabajoPorTurno;
     }
 }
@@ -118,6 +121,7 @@ std::unique_ptr<Cartera::Rama> Cartera::NuevaRama() {
         for (const int32_t miembro : Expandir(origen->columnas, origen->busqueda->Mejor()))
             partida.push_back(rama->columnas.de[miembro]);
     rama->busqueda->PartirDe(partida);
+    if (origen != nullptr) rama->heredado = origen->busqueda->MejorCoste();
     trabajo_ += rama->busqueda->Trabajo();
     rama->trabajo = rama->busqueda->Trabajo();
     return rama;

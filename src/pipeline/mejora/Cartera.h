@@ -1,6 +1,7 @@
 // The search among symmetric systems: many symmetries, each with its own small covering problem.
 #pragma once
 
+#include <limits>
 #include <memory>
 #include <vector>
 
@@ -37,12 +38,14 @@ class Cartera {
     int64_t Trabajo() const { return trabajo_; }
 
   private:
+    static constexpr int32_t SinHerencia = std::numeric_limits<int32_t>::max();
     struct Rama {
         Simetria simetria;
         Orbitas filas, columnas;
         Recubrimiento problema;
         std::unique_ptr<BusquedaLocal> busqueda;
         int64_t trabajo = 0;
+        int32_t heredado = SinHerencia; // bets of the system that it started from, in its first turn
     };
     static constexpr int MaximoFallidas = 400;
 

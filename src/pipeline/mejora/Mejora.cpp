@@ -10,8 +10,10 @@
 namespace {
 
 constexpr int64_t MaximoPares = 140'000'000;
-constexpr int32_t MaximoConSimetria = 2'000'000; // bets
+constexpr int32_t MaximoConSimetria = 2'000'000;  // bets
+constexpr int32_t MaximoConDemostracion = 10'000; // bets
 constexpr int64_t TrabajoPorTurno = int64_t{1} << 26;
+constexpr int64_t PesoDemostracion = 4; // it gets a quarter of what each search gets
 
 } // namespace
 
@@ -32,6 +34,8 @@ Mejora::Mejora(const Tabla& condicionadas, int n, Garantia garantia, uint64_t se
     const bool casiTodas = !familia_.Completa() && 2 * familia_.Cuantas() >= Combinar(n, 6);
     if (casiTodas && directa_ && garantia.Exigido >= familia_.Total())
         restriccion_.emplace(familia_, *problema_, garantia.Aciertos, semilla);
+    if (directa_ && familia_.Cuantas() <= MaximoConDemostracion && garantia.Exigido >= familia_.Total())
+        demostracion_.emplace(familia_, *problema_, cota_);
 }
 
 bool Mejora::PartirDe(const std::vector<uint64_t>& sistema, const std::function<bool()>& seguir) {
@@ -69,6 +73,8 @@ bool Mejora::Hay(Fuente fuente) const {
         return restriccion_.has_value();
     case Fuente::Partida:
         return particion_.has_value();
+    case Fuente::Exacta:
+        return demostracion_ && !demostracion_->Acabada();
     }
     return false;
 }
@@ -83,14 +89,17 @@ int64_t Mejora::Trabajo(Fuente fuente) const {
         return restriccion_->Trabajo();
     case Fuente::Partida:
         return particion_->Trabajo();
+    case Fuente::Exacta:
+        return demostracion_->Trabajo() * PesoDemostracion;
     }
     return 0;
 }
 
-// The searches share the work evenly.
+// The searches share the work evenly. The proof goes first: for few bets it is done at once.
 void Mejora::ElegirTurno() {
     int64_t menos = std::numeric_limits<int64_t>::max();
-    for (const Fuente fuente : {Fuente::Directa, Fuente::Simetrica, Fuente::Restringida, Fuente::Partida})
+    for (const Fuente fuente :
+         {Fuente::Exacta, Fuente::Directa, Fuente::Simetrica, Fuente::Restringida, Fuente::Partida})
         if (Hay(fuente) && Trabajo(fuente) < menos) {
             menos = Trabajo(fuente);
             turno_ = fuente;
@@ -113,21 +122,34 @@ void Mejora::Avanzar() {
         return;
     case Fuente::Partida:
         particion_->Paso();
+        return;
+    case Fuente::Exacta:
+        demostracion_->Paso();
     }
 }
 
 // What the search of this turn has found so far; 0 for nothing.
 size_t Mejora::CuantasHalladas() const {
-    return turno_ == Fuente::Directa       ? directa_->Mejor().size()
-           : turno_ == Fuente::Simetrica   ? cartera_->Mejor().size()
-           : turno_ == Fuente::Restringida ? restriccion_->Mejor().size()
-                                           : particion_->Mejor().size();
+    switch (turno_) {
+    case Fuente::Directa:
+        return directa_->Mejor().size();
+    case Fuente::Simetrica:
+        return cartera_->Mejor().size();
+    case Fuente::Restringida:
+        return restriccion_->Mejor().size();
+    case Fuente::Partida:
+        return particion_->Mejor().size();
+    case Fuente::Exacta:
+        return demostracion_->Hallada().size();
+    }
+    return 0;
 }
 
 std::vector<int32_t> Mejora::Halladas() const {
     if (turno_ == Fuente::Directa) return directa_->Mejor();
     if (turno_ == Fuente::Simetrica) return cartera_->Mejor();
     if (turno_ == Fuente::Restringida) return restriccion_->Mejor();
+    if (turno_ == Fuente::Exacta) return demostracion_->Hallada();
     std::vector<int32_t> apuestas;
     for (const uint64_t mascara : particion_->Mejor()) apuestas.push_back(familia_.Lugar(mascara));
     return apuestas;
@@ -160,7 +182,7 @@ bool Mejora::PasoFijo() {
 
 bool Mejora::Terminada() const {
     if (cubiertas_ >= 0) return cubiertas_ >= familia_.Total();
-    return Apuestas() <= cota_ || (!directa_ && !HaySimetrias() && !particion_);
+    return Apuestas() <= Cota() || (!directa_ && !HaySimetrias() && !particion_);
 }
 
 bool Mejora::Pasos(int64_t cuantos) {

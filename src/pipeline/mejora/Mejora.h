@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "Demostracion.h"
 #include "Particion.h"
 #include "Restriccion.h"
 
@@ -16,8 +17,9 @@ struct Garantia {
 };
 
 /// From a system that stands it looks for a smaller one among the conditioned bets: by exchanging bets,
-/// among the systems that a symmetry of the base leaves as they are, and by splitting a whole base. The same seed and
-/// the same number of steps give the same system. Each better system has been proved bet by bet before it stands here.
+/// among the systems that a symmetry of the base leaves as they are, and by splitting a whole base; meanwhile it tries
+/// to prove that there is none. The same seed and the same number of steps give the same system. Each better system has
+/// been proved bet by bet before it stands here.
 ///
 ///     Mejora mejora(condicionadas, n, garantia, 1);
 ///     mejora.PartirDe(sistema);
@@ -48,14 +50,14 @@ class Mejora {
     /// Conditioned bets that the system covers, where the number of bets is fixed.
     int64_t Cubiertas() const { return cubiertas_; }
 
-    /// No system is smaller than this.
-    int32_t Cota() const { return cota_; }
+    /// No system is smaller than this. It may grow with the steps.
+    int32_t Cota() const { return demostracion_ ? demostracion_->Cota() : cota_; }
 
     /// Whether nothing is left to look for.
     bool Terminada() const;
 
   private:
-    enum class Fuente { Directa, Simetrica, Restringida, Partida };
+    enum class Fuente { Directa, Simetrica, Restringida, Partida, Exacta };
 
     bool Aceptar(const std::vector<int32_t>& apuestas);
     bool HaySimetrias() const { return cartera_ && !cartera_->Agotada(); }
@@ -76,6 +78,7 @@ class Mejora {
     std::optional<Cartera> cartera_;
     std::optional<Restriccion> restriccion_;
     std::optional<Particion> particion_;
+    std::optional<Demostracion> demostracion_;
     std::vector<int32_t> apuestas_; // of the family
     std::vector<uint64_t> sistema_;
     Fuente turno_ = Fuente::Directa;

@@ -42,6 +42,17 @@ void Partir(std::vector<uint8_t> bits, Azar& azar, std::vector<CiclosIguales>& p
     for (const uint8_t bit : bits) partes.back().push_back({bit});
 }
 
+// Cuts the bits of a class into as many cycles of one length as there is room for.
+void PartirPorIgual(const std::vector<uint8_t>& bits, int32_t largo, std::vector<CiclosIguales>& partes) {
+    const size_t en = bits.size() / static_cast<size_t>(largo) * static_cast<size_t>(largo);
+    CiclosIguales iguales, sueltos;
+    for (size_t i = 0; i < en; i += static_cast<size_t>(largo))
+        iguales.emplace_back(bits.data() + i, bits.data() + i + largo);
+    for (size_t i = en; i < bits.size(); ++i) sueltos.push_back({bits[i]});
+    if (!iguales.empty()) partes.push_back(std::move(iguales));
+    if (!sueltos.empty()) partes.push_back(std::move(sueltos));
+}
+
 // An order of n things: drawn, turned round, or exchanged in pairs.
 std::vector<int32_t> OrdenAlAzar(int32_t n, Azar& azar) {
     std::vector<int32_t> orden(n);
@@ -80,6 +91,36 @@ Permutacion Normalizadora(const std::vector<CiclosIguales>& partes, Azar& azar) 
     return p;
 }
 
+// A turn of the cycles, or not, and up to two that turn cycles into cycles.
+void MoverCiclos(const std::vector<CiclosIguales>& partes, Azar& azar, Simetria& simetria) {
+    if (azar.Entero(8) != 0) {
+        simetria.push_back(Identidad());
+        for (const CiclosIguales& iguales : partes)
+            for (const Ciclo& ciclo : iguales)
+                for (size_t i = 0; i < ciclo.size(); ++i) simetria.back()[ciclo[i]] = ciclo[(i + 1) % ciclo.size()];
+    }
+    const int32_t mas = azar.Entero(4);
+    for (int32_t i = 0; i < (mas == 3 ? 1 : mas); ++i) simetria.push_back(Normalizadora(partes, azar));
+}
+
+// Cuts the bits of a class into parts of one length, some of which move, each on its own: by turns, or, where the
+// length is a power of two, by exchanges in pairs.
+void MoverPorPartes(const std::vector<uint8_t>& bits, Azar& azar, Simetria& simetria) {
+    constexpr int32_t MayorParte = 6, MayorPotencia = 4;
+    const bool enParejas = azar.Entero(2) == 0;
+    const int32_t generadores = enParejas ? 2 + azar.Entero(MayorPotencia - 1) : 1;
+    const int32_t largo = enParejas ? 1 << generadores : 2 + azar.Entero(MayorParte - 1);
+    const int32_t caben = static_cast<int32_t>(bits.size()) / largo;
+    if (caben == 0) return;
+    const int32_t cuantas = 1 + azar.Entero(caben);
+    for (const uint8_t* parte = bits.data(); parte != bits.data() + cuantas * largo; parte += largo)
+        for (int32_t g = 0; g < generadores; ++g) {
+            simetria.push_back(Identidad());
+            for (int32_t i = 0; i < largo; ++i)
+                simetria.back()[parte[i]] = parte[enParejas ? i ^ (1 << g) : (i + 1) % largo];
+        }
+}
+
 } // namespace
 
 Clases ClasesDe(const Familia& familia) {
@@ -94,22 +135,22 @@ Clases ClasesDe(const Familia& familia) {
 }
 
 Simetria SimetriaAlAzar(const Clases& clases, int n, Azar& azar) {
+    const int32_t manera = azar.Entero(3);
+    const int32_t largo = 2 + azar.Entero(n - 1);
+    Simetria simetria;
     std::vector<CiclosIguales> partes;
     for (int clase = 0; clase < n; ++clase) {
         std::vector<uint8_t> bits;
         for (int bit = n; bit-- > 0;)
             if (clases[bit] == clase) bits.push_back(static_cast<uint8_t>(bit));
-        Partir(bits, azar, partes);
+        if (manera == 0)
+            Partir(bits, azar, partes);
+        else if (manera == 1)
+            PartirPorIgual(bits, largo, partes);
+        else
+            MoverPorPartes(bits, azar, simetria);
     }
-    Simetria simetria;
-    if (azar.Entero(8) != 0) {
-        simetria.push_back(Identidad());
-        for (const CiclosIguales& iguales : partes)
-            for (const Ciclo& ciclo : iguales)
-                for (size_t i = 0; i < ciclo.size(); ++i) simetria.back()[ciclo[i]] = ciclo[(i + 1) % ciclo.size()];
-    }
-    const int32_t mas = azar.Entero(4);
-    for (int32_t i = 0; i < (mas == 3 ? 1 : mas); ++i) simetria.push_back(Normalizadora(partes, azar));
+    if (manera != 2) MoverCiclos(partes, azar, simetria);
     std::erase(simetria, Identidad());
     return simetria;
 }

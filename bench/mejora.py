@@ -7,14 +7,18 @@ A case is NUMBERS/HITS, or condNUMBERS/HITS for one of the conditioned bases bel
 publicly known. Each run is one process on one core and ends when it reaches that size. The table says the median
 over the seeds of the size and of the CPU time of whole runs, every size that came, and the proved bound."""
 import argparse
+import math
 import os
 import re
-import resource
+import signal
 import statistics
 import subprocess
 import tempfile
+import time
 
 EJEMPLO = os.path.join(os.path.dirname(__file__), '..', 'share', 'ejemplos', 'doce-numeros.xml')
+
+SinFin = 1_000_000 # seconds: the run is stopped before
 
 # numbers: even numbers among the six, sum of the six
 CONDICIONES = {12: ('2,3,4', '21-57'), 15: ('2,3,4', '38-58'), 18: ('3', '45-69'), 20: ('2,3,4', '50-76')}
@@ -48,13 +52,25 @@ def base(numeros, aciertos, condicionada):
     return xml
 
 
-def calcular(lote, fichero, *opciones):
-    """The counts that the run prints, and its CPU time in seconds."""
-    antes = resource.getrusage(resource.RUSAGE_CHILDREN)
-    salida = subprocess.run([lote, 'calcular', fichero, *opciones], capture_output=True, text=True, check=True).stdout
-    ahora = resource.getrusage(resource.RUSAGE_CHILDREN)
-    cuentas = {k: int(v) for k, v in re.findall(r'^(\w+): (\d+)$', salida, re.M)}
-    return cuentas, ahora.ru_utime + ahora.ru_stime - antes.ru_utime - antes.ru_stime
+def cpu(proceso):
+    with open(f'/proc/{proceso.pid}/stat', encoding='ascii') as f:
+        campos = f.read().rsplit(')', 1)[1].split()
+    return (int(campos[11]) + int(campos[12])) / os.sysconf('SC_CLK_TCK')
+
+
+def calcular(lote, fichero, segundos, *opciones):
+    """The counts that the run prints, and its CPU time; it is stopped after so many seconds of that."""
+    with subprocess.Popen([lote, 'calcular', fichero, *opciones], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                          text=True) as proceso:
+        usado = 0
+        while proceso.poll() is None:
+            usado = max(usado, cpu(proceso))
+            if usado >= segundos:
+                proceso.send_signal(signal.SIGINT)
+                break
+            time.sleep(0.05)
+        salida = proceso.stdout.read()
+    return {k: int(v) for k, v in re.findall(r'^(\w+): (\d+)$', salida, re.M)}, usado
 
 
 def fila(o, caso):
@@ -64,10 +80,10 @@ def fila(o, caso):
     with tempfile.NamedTemporaryFile('w', suffix='.xml', encoding='utf-8') as f:
         f.write(base(numeros, int(aciertos), condicionada))
         f.flush()
-        uno, _ = calcular(o.lote, f.name)
-        ciclos = calcular(o.lote, f.name, '--segundos', str(o.ciclos))[0]['Reducidas'] if o.ciclos else '-'
+        uno, _ = calcular(o.lote, f.name, math.inf)
+        ciclos = calcular(o.lote, f.name, o.ciclos, '--segundos', str(SinFin))[0]['Reducidas'] if o.ciclos else '-'
         meta = ['--mejorar-hasta', str(conocido)] if conocido else []
-        corridas = [calcular(o.lote, f.name, '--mejorar', str(o.segundos), '--mejorar-semilla', str(s), *meta)
+        corridas = [calcular(o.lote, f.name, o.segundos, '--mejorar', str(SinFin), '--mejorar-semilla', str(s), *meta)
                     for s in range(1, o.semillas + 1)]
     tamanos = [cuentas['Reducidas'] for cuentas, _ in corridas]
     tiempo = statistics.median_low(segundos for _, segundos in corridas)
@@ -85,10 +101,10 @@ def main():
     a = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     a.add_argument('lote')
     a.add_argument('casos', nargs='*')
-    a.add_argument('--segundos', type=int, default=60, help='of the clock')
+    a.add_argument('--segundos', type=int, default=60, help='of CPU time')
     a.add_argument('--semillas', type=int, default=1)
     a.add_argument('--ciclos', type=int, default=0, metavar='S', help='also the best of S seconds of cycles')
-    o = a.parse_args()
+    o = a.parse_intermixed_args()
     print('| Base | Al | Condicionadas | Un ciclo | Ciclos | Mejorado (s) | Semillas | Conocido | Cota |\n' + '|---' * 9 + '|')
     for caso in o.casos or todos():
         print(fila(o, caso), flush=True)

@@ -24,11 +24,11 @@ std::vector<uint64_t> EnPosiciones(const EstadoTrabajo& trabajo) {
     return sistema;
 }
 
-Garantia LaPedida(const LogicaVentanaProceso& vp, const std::vector<uint64_t>& sistema) {
+Garantia LaPedida(const LogicaVentanaProceso& vp, const std::vector<uint64_t>& sistema, const Vigia& vigia) {
     Garantia garantia;
     garantia.Aciertos = 6 - vp.sesion.trabajo.Reduccion.TipoReduccion;
     garantia.Exigido = vp.PorNumero
-                           ? ContarCubiertas(vp.sesion.trabajo.ApuestasCondicionadas, sistema, garantia.Aciertos)
+                           ? ContarCubiertas(vp.sesion.trabajo.ApuestasCondicionadas, sistema, garantia.Aciertos, vigia)
                            : vp.CubiertasParaElegir(vp.Porcentaje);
     return garantia;
 }
@@ -36,6 +36,25 @@ Garantia LaPedida(const LogicaVentanaProceso& vp, const std::vector<uint64_t>& s
 void MostrarCota(LogicaVentanaProceso& vp, int32_t cota) {
     vp.Cota = cota;
     vp.lblCota = FormatoMiles(cota, vp.entorno.SeparadorMiles);
+}
+
+void Buscar(LogicaVentanaProceso& vp, const Vigia& vigia) {
+    const EstadoTrabajo& trabajo = vp.sesion.trabajo;
+    const FinesMejora& fines = vp.finesMejora;
+    const std::vector<uint64_t> sistema = EnPosiciones(trabajo);
+    const Garantia garantia = LaPedida(vp, sistema, vigia);
+    Mejora mejora(trabajo.ApuestasCondicionadas, trabajo.NumerosBase, garantia, fines.Semilla, vigia);
+    if (!mejora.PartirDe(sistema)) return;
+    if (garantia.Exigido < vp.NApuestasReduccion && vp.PorNumero && !mejora.FijarApuestas(vp.NApuestas)) return;
+    MostrarCota(vp, mejora.Cota());
+    if (mejora.Sistema() != sistema) vp.TomarMejorado(mejora.Sistema());
+    for (vp.PasosMejora = 0; !mejora.Terminada(); vp.PasosMejora += PasosPorTurno) {
+        vigia.Preguntar();
+        if (fines.Pasos > 0 && vp.PasosMejora >= fines.Pasos) break;
+        if (mejora.Apuestas() <= fines.Apuestas) break;
+        if (mejora.Pasos(PasosPorTurno)) vp.TomarMejorado(mejora.Sistema());
+        if (mejora.Cota() > vp.Cota) MostrarCota(vp, mejora.Cota());
+    }
 }
 
 } // namespace
@@ -53,21 +72,13 @@ bool ReduccionMejorable(const Sesion& sesion, Entorno& entorno) {
 void MejorarReduccion(LogicaVentanaProceso& vp) {
     using Reloj = std::chrono::steady_clock;
     const Reloj::time_point comienzo = Reloj::now();
-    const EstadoTrabajo& trabajo = vp.sesion.trabajo;
-    FinesMejora& fines = vp.finesMejora;
-    const std::vector<uint64_t> sistema = EnPosiciones(trabajo);
-    const Garantia garantia = LaPedida(vp, sistema);
-    Mejora mejora(trabajo.ApuestasCondicionadas, trabajo.NumerosBase, garantia, fines.Semilla);
-    if (!mejora.PartirDe(sistema, [&vp] { return vp.Turno(0); })) return;
-    if (garantia.Exigido < vp.NApuestasReduccion && vp.PorNumero && !mejora.FijarApuestas(vp.NApuestas)) return;
-    MostrarCota(vp, mejora.Cota());
-    if (mejora.Sistema() != sistema) vp.TomarMejorado(mejora.Sistema());
-    for (vp.PasosMejora = 0; !mejora.Terminada() && vp.Turno(0); vp.PasosMejora += PasosPorTurno) {
+    const double tope = vp.finesMejora.Segundos;
+    const Vigia vigia([&] {
         vp.SegundosMejora = std::chrono::duration<double>(Reloj::now() - comienzo).count();
-        if (fines.Segundos > 0 && vp.SegundosMejora >= fines.Segundos) break;
-        if (fines.Pasos > 0 && vp.PasosMejora >= fines.Pasos) break;
-        if (mejora.Apuestas() <= fines.Apuestas) break;
-        if (mejora.Pasos(PasosPorTurno)) vp.TomarMejorado(mejora.Sistema());
-        if (mejora.Cota() > vp.Cota) MostrarCota(vp, mejora.Cota());
+        return vp.Turno(0) && (tope <= 0 || vp.SegundosMejora < tope);
+    });
+    try {
+        Buscar(vp, vigia);
+    } catch (const Interrumpida&) { // the best one stands in the window
     }
 }

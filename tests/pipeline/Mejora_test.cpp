@@ -184,6 +184,22 @@ TEST(Mejora, TantasApuestasNoCubrenNuncaMenosQueAlEmpezar) {
     EXPECT_GE(mejores, 6); // where one bet stands alone none covers more
 }
 
+TEST(Mejora, SeDetieneDondeLaParen) {
+    Dado dado(6);
+    const Caso caso(18, 4, 1, 100, dado);
+    const std::vector<uint64_t> partida = caso.Barrida();
+    for (const int permitidas : {0, 2, 5}) {
+        int preguntas = 0;
+        const auto buscar = [&] {
+            Mejora mejora(caso.apuestas, caso.n, caso.garantia, 1, Vigia([&] { return ++preguntas <= permitidas; }));
+            mejora.PartirDe(partida);
+            mejora.Pasos(200000);
+        };
+        EXPECT_THROW(buscar(), Interrumpida);
+        EXPECT_EQ(preguntas, permitidas + 1);
+    }
+}
+
 TEST(Mejora, NoPartiraDeLoQueNoEsUnSistema) {
     Dado dado(2);
     const Caso caso(10, 4, 2, 100, dado);

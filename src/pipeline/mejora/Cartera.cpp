@@ -20,8 +20,9 @@ Simetria Reflejo(int n) {
 } // namespace
 
 Cartera::Cartera(const Familia& filas, const Familia& columnas, int t, int64_t exigido, uint64_t semilla,
-                 LimitesCartera limites)
-    : filas_(filas), columnas_(columnas), t_(t), exigido_(exigido), limites_(limites), clases_(ClasesDe(filas)) {
+                 const Vigia& vigia, LimitesCartera limites)
+    : filas_(filas), columnas_(columnas), t_(t), exigido_(exigido), vigia_(vigia), limites_(limites),
+      clases_(ClasesDe(filas)) {
     azar_.Sembrar(semilla);
 }
 
@@ -130,11 +131,11 @@ std::unique_ptr<Cartera::Rama> Cartera::NuevaRama() {
 bool Cartera::Plantear(Rama& rama) {
     const bool iguales = &filas_ == &columnas_;
     trabajo_ += int64_t{columnas_.Cuantas()} * static_cast<int64_t>(rama.simetria.size());
-    if (!HallarOrbitas(columnas_, rama.simetria, MaximoOrbitas, rama.columnas)) return false;
-    if (!iguales && !HallarOrbitas(filas_, rama.simetria, MaximoOrbitas, rama.filas)) return false;
+    if (!HallarOrbitas(columnas_, rama.simetria, MaximoOrbitas, rama.columnas, vigia_)) return false;
+    if (!iguales && !HallarOrbitas(filas_, rama.simetria, MaximoOrbitas, rama.filas, vigia_)) return false;
     if (rama.columnas.Cuantas() < MinimoOrbitas) return false;
     const Orbitas& deFilas = iguales ? rama.columnas : rama.filas;
-    if (!RecubrimientoDeOrbitas(filas_, deFilas, columnas_, rama.columnas, t_, limites_.Pares, rama.problema))
+    if (!RecubrimientoDeOrbitas(filas_, deFilas, columnas_, rama.columnas, t_, limites_.Pares, rama.problema, vigia_))
         return false;
     trabajo_ += rama.problema.cubren.Cuantas();
     rama.problema.exigido = exigido_;

@@ -22,8 +22,9 @@ struct LimitesCartera {
 /// and 4 bytes a bet.
 class Cartera {
   public:
-    /// Covers `exigido` of the rows by the columns with at least t in common. The families outlive it.
-    Cartera(const Familia& filas, const Familia& columnas, int t, int64_t exigido, uint64_t semilla,
+    /// Covers `exigido` of the rows by the columns with at least t in common. The families and
+    /// the watcher outlive it.
+    Cartera(const Familia& filas, const Familia& columnas, int t, int64_t exigido, uint64_t semilla, const Vigia& vigia,
             LimitesCartera limites = {});
 
     /// One exchange in one of the searches. True when it gave a smaller system than all before.
@@ -62,6 +63,7 @@ class Cartera {
     const Familia &filas_, &columnas_;
     int t_;
     int64_t exigido_;
+    const Vigia& vigia_;
     LimitesCartera limites_;
     Azar azar_;
     Clases clases_;

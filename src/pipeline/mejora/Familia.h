@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Tabla.h"
+#include "Vigia.h"
 
 /// Different subsets once each, in ascending order of their masks: bit p - 1 is position p of the base.
 /// Memory: 12 bytes a subset, and 4 for each k-subset of the base unless the family holds them all.
@@ -17,7 +18,7 @@ class Familia {
 
     /// The bets in rows 1 to 6 of a table of positions; one that stands several times counts as often.
     /// Throws std::runtime_error when a bet is not six different positions of the base.
-    static Familia DeTabla(const Tabla& apuestas, int n);
+    static Familia DeTabla(const Tabla& apuestas, int n, const Vigia& vigia = {});
 
     int n() const { return n_; }
     int k() const { return k_; }
@@ -36,7 +37,7 @@ class Familia {
 
   private:
     Familia(int n, int k);
-    void Indexar();
+    void Indexar(const Vigia& vigia);
     int32_t Rango(uint64_t mascara) const {
         int32_t rango = 0;
         for (int j = 0; mascara != 0; ++j, mascara &= mascara - 1) rango += parte_[j][std::countr_zero(mascara)];

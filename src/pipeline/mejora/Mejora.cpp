@@ -17,34 +17,35 @@ constexpr int64_t PesoDemostracion = 4; // it gets a quarter of what each search
 
 } // namespace
 
-Mejora::Mejora(const Tabla& condicionadas, int n, Garantia garantia, uint64_t semilla)
-    : condicionadas_(condicionadas), garantia_(garantia), familia_(Familia::DeTabla(condicionadas, n)) {
-    cota_ = CotaInferior(familia_, garantia.Aciertos, garantia.Exigido);
+Mejora::Mejora(const Tabla& condicionadas, int n, Garantia garantia, uint64_t semilla, Vigia vigia)
+    : vigia_(std::move(vigia)), condicionadas_(condicionadas), garantia_(garantia),
+      familia_(Familia::DeTabla(condicionadas, n, vigia_)) {
+    cota_ = CotaInferior(familia_, garantia.Aciertos, garantia.Exigido, vigia_);
     problema_.emplace();
-    if (RecubrimientoDirecto(familia_, familia_, garantia.Aciertos, MaximoPares, *problema_)) {
+    if (RecubrimientoDirecto(familia_, familia_, garantia.Aciertos, MaximoPares, *problema_, vigia_)) {
         problema_->exigido = garantia.Exigido;
         directa_.emplace(*problema_, semilla);
     } else {
         problema_.reset();
     }
     if (familia_.Cuantas() <= MaximoConSimetria)
-        cartera_.emplace(familia_, familia_, garantia.Aciertos, garantia.Exigido, semilla);
+        cartera_.emplace(familia_, familia_, garantia.Aciertos, garantia.Exigido, semilla, vigia_);
     if (familia_.Completa() && garantia.Aciertos <= 3 && garantia.Exigido >= familia_.Total())
-        particion_.emplace(n, garantia.Aciertos, semilla);
+        particion_.emplace(n, garantia.Aciertos, semilla, vigia_);
     const bool casiTodas = !familia_.Completa() && 2 * familia_.Cuantas() >= Combinar(n, 6);
     if (casiTodas && directa_ && garantia.Exigido >= familia_.Total())
-        restriccion_.emplace(familia_, *problema_, garantia.Aciertos, semilla);
+        restriccion_.emplace(familia_, *problema_, garantia.Aciertos, semilla, vigia_);
     if (directa_ && familia_.Cuantas() <= MaximoConDemostracion && garantia.Exigido >= familia_.Total())
         demostracion_.emplace(familia_, *problema_, cota_);
 }
 
-bool Mejora::PartirDe(const std::vector<uint64_t>& sistema, const std::function<bool()>& seguir) {
+bool Mejora::PartirDe(const std::vector<uint64_t>& sistema) {
     std::vector<int32_t> apuestas;
     for (const uint64_t mascara : sistema) {
         apuestas.push_back(familia_.Lugar(mascara));
         if (apuestas.back() < 0) return false;
     }
-    if (!QuitarSobrantes(familia_, garantia_.Aciertos, garantia_.Exigido, apuestas, seguir)) return false;
+    if (!QuitarSobrantes(familia_, garantia_.Aciertos, garantia_.Exigido, apuestas, vigia_)) return false;
     sistema_ = sistema;
     if (apuestas.size() < sistema.size() && !Aceptar(apuestas)) return false;
     apuestas_ = apuestas;
@@ -55,8 +56,8 @@ bool Mejora::PartirDe(const std::vector<uint64_t>& sistema, const std::function<
 bool Mejora::Aceptar(const std::vector<int32_t>& apuestas) {
     std::vector<uint64_t> sistema;
     for (const int32_t apuesta : apuestas) sistema.push_back(familia_.Mascara(apuesta));
-    if (!SonCondicionadas(condicionadas_, sistema) ||
-        ContarCubiertas(condicionadas_, sistema, garantia_.Aciertos) < garantia_.Exigido)
+    if (!SonCondicionadas(condicionadas_, sistema, vigia_) ||
+        ContarCubiertas(condicionadas_, sistema, garantia_.Aciertos, vigia_) < garantia_.Exigido)
         return false;
     apuestas_ = apuestas;
     sistema_ = std::move(sistema);

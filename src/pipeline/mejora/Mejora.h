@@ -29,13 +29,15 @@ struct Garantia {
 /// 200 MB for each of the other searches that applies, and 24 bytes a conditioned bet.
 class Mejora {
   public:
-    /// `condicionadas` outlives it: positions 1 to n in rows 1 to 6.
-    Mejora(const Tabla& condicionadas, int n, Garantia garantia, uint64_t semilla);
+    /// `condicionadas` outlives it: positions 1 to n in rows 1 to 6. What the watcher stops, here or later, throws
+    /// Interrumpida; the object is then of no more use.
+    Mejora(const Tabla& condicionadas, int n, Garantia garantia, uint64_t semilla, Vigia vigia = {});
+    Mejora(const Mejora&) = delete;
+    Mejora& operator=(const Mejora&) = delete;
 
     /// The start: masks of conditioned bets, bit p - 1 for position p. What it does not need is left out.
-    /// False when it is no system with that guarantee or `seguir()`, called now and then, says no.
-    bool PartirDe(
-        const std::vector<uint64_t>& sistema, const std::function<bool()>& seguir = [] { return true; });
+    /// False when it is no system with that guarantee.
+    bool PartirDe(const std::vector<uint64_t>& sistema);
 
     /// Turns to the other question: from the system that stands, the most conditioned bets that `cuantas`
     /// bets can cover; the guarantee is what they cover. False where there is no room for the exchange.
@@ -70,6 +72,7 @@ class Mejora {
     size_t CuantasHalladas() const;
     std::vector<int32_t> Halladas() const;
 
+    Vigia vigia_;
     const Tabla& condicionadas_;
     Garantia garantia_;
     Familia familia_;

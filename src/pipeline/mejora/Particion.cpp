@@ -23,7 +23,8 @@ constexpr int32_t SinPieza = -1, Suelta = -2; // how the rest begins: not at all
 
 } // namespace
 
-Particion::Particion(int n, int t, uint64_t semilla) : n_(n), t_(t), semilla_(semilla) {
+Particion::Particion(int n, int t, uint64_t semilla, const Vigia& vigia)
+    : n_(n), t_(t), semilla_(semilla), vigia_(vigia) {
     const int mayor = t == 2 ? 2 : t + 1;
     for (int m = t; m <= mayor; ++m)
         for (int v = std::min(n, 6); v < n && Combinar(v, 6) <= MaximoApuestas; ++v) {
@@ -86,8 +87,8 @@ void Particion::ElegirPieza() {
     if (actual_->cartera) return;
     actual_->filas = std::make_unique<Familia>(Familia::Todas(actual_->v, actual_->m));
     actual_->columnas = std::make_unique<Familia>(Familia::Todas(actual_->v, 6));
-    actual_->cartera =
-        std::make_unique<Cartera>(*actual_->filas, *actual_->columnas, t_, actual_->filas->Total(), semilla_, DePieza);
+    actual_->cartera = std::make_unique<Cartera>(*actual_->filas, *actual_->columnas, t_, actual_->filas->Total(),
+                                                 semilla_, vigia_, DePieza);
 }
 
 bool Particion::Paso() {

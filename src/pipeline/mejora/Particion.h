@@ -14,8 +14,8 @@
 /// "al 3" and "al 2". Memory: up to 16 MB for each of some thirty pieces, and their own bets.
 class Particion {
   public:
-    /// All bets of n numbers with t in common.
-    Particion(int n, int t, uint64_t semilla);
+    /// All bets of n numbers with t in common. The watcher outlives it.
+    Particion(int n, int t, uint64_t semilla, const Vigia& vigia);
 
     /// One exchange in one of the pieces. True when the whole has become smaller.
     bool Paso();
@@ -45,6 +45,7 @@ class Particion {
 
     int n_, t_;
     uint64_t semilla_;
+    const Vigia& vigia_;
     std::vector<Pieza> piezas_;
     // By numbers and by what is left of the budget: the fewest bets known, and the piece they begin with.
     std::vector<std::array<int64_t, Presupuesto + 1>> suma_;

@@ -8,9 +8,10 @@ constexpr int PasosPorPartida = 2000;
 
 } // namespace
 
-Restriccion::Restriccion(const Familia& condicionadas, const Recubrimiento& problema, int t, uint64_t semilla)
+Restriccion::Restriccion(const Familia& condicionadas, const Recubrimiento& problema, int t, uint64_t semilla,
+                         const Vigia& vigia)
     : condicionadas_(condicionadas), todas_(Familia::Todas(condicionadas.n(), 6)),
-      cartera_(todas_, todas_, t, todas_.Total(), semilla), busqueda_(problema, semilla) {
+      cartera_(todas_, todas_, t, todas_.Total(), semilla, vigia), busqueda_(problema, semilla) {
     azar_.Sembrar(semilla);
 }
 

@@ -8,8 +8,9 @@
 /// exchanges for a while. Memory: 12 bytes for each bet of the base, and that of a `Cartera`.
 class Restriccion {
   public:
-    /// `problema` is that of the conditioned bets, all of which are to be covered. Both outlive it.
-    Restriccion(const Familia& condicionadas, const Recubrimiento& problema, int t, uint64_t semilla);
+    /// `problema` is that of the conditioned bets, all of which are to be covered. All outlive it.
+    Restriccion(const Familia& condicionadas, const Recubrimiento& problema, int t, uint64_t semilla,
+                const Vigia& vigia);
 
     /// One exchange, of the whole base or of the conditioned bets. True when it gave a smaller system of
     /// these than all before.

@@ -24,7 +24,8 @@ uint64_t Imagen(const Permutacion& p, uint64_t mascara) {
     return imagen;
 }
 
-bool HallarOrbitas(const Familia& familia, const Simetria& simetria, int32_t tope, Orbitas& orbitas) {
+bool HallarOrbitas(const Familia& familia, const Simetria& simetria, int32_t tope, Orbitas& orbitas,
+                   const Vigia& vigia) {
     orbitas.de.assign(familia.Cuantas(), -1);
     orbitas.representante.clear();
     orbitas.tamanio.clear();
@@ -35,7 +36,8 @@ bool HallarOrbitas(const Familia& familia, const Simetria& simetria, int32_t top
         if (orbita == tope) return false;
         orbitas.de[primera] = orbita;
         cola.assign(1, primera);
-        for (size_t i = 0; i < cola.size(); ++i)
+        for (size_t i = 0; i < cola.size(); ++i) {
+            vigia.Contar(4 * static_cast<int64_t>(simetria.size()));
             for (const Permutacion& p : simetria) {
                 const int32_t otra = familia.Lugar(Imagen(p, familia.Mascara(cola[i])));
                 if (otra < 0 || familia.Veces(otra) != familia.Veces(primera)) return false;
@@ -43,6 +45,7 @@ bool HallarOrbitas(const Familia& familia, const Simetria& simetria, int32_t top
                 orbitas.de[otra] = orbita;
                 cola.push_back(otra);
             }
+        }
         orbitas.representante.push_back(primera);
         orbitas.tamanio.push_back(static_cast<int32_t>(cola.size()));
     }
@@ -59,7 +62,8 @@ std::vector<int32_t> Expandir(const Orbitas& orbitas, const std::vector<int32_t>
 }
 
 bool RecubrimientoDeOrbitas(const Familia& filas, const Orbitas& deFilas, const Familia& columnas,
-                            const Orbitas& deColumnas, int t, int64_t tope, Recubrimiento& problema) {
+                            const Orbitas& deColumnas, int t, int64_t tope, Recubrimiento& problema,
+                            const Vigia& vigia) {
     problema = {};
     problema.simetrico = &filas == &columnas;
     problema.coste = deColumnas.tamanio;
@@ -69,6 +73,7 @@ bool RecubrimientoDeOrbitas(const Familia& filas, const Orbitas& deFilas, const 
     std::vector<int32_t> visto(deColumnas.Cuantas(), -1);
     for (int32_t f = 0; f < deFilas.Cuantas(); ++f) {
         const int32_t primera = deFilas.representante[f];
+        vigia.Contar(std::min<int64_t>(vecinas, columnas.Cuantas()));
         problema.peso.push_back(deFilas.tamanio[f] * filas.Veces(primera));
         problema.total += problema.peso.back();
         CadaVecina(columnas, filas.Mascara(primera), t, [&](int32_t vecina) {
@@ -85,11 +90,12 @@ bool RecubrimientoDeOrbitas(const Familia& filas, const Orbitas& deFilas, const 
     return true;
 }
 
-bool RecubrimientoDirecto(const Familia& filas, const Familia& columnas, int t, int64_t tope, Recubrimiento& problema) {
+bool RecubrimientoDirecto(const Familia& filas, const Familia& columnas, int t, int64_t tope, Recubrimiento& problema,
+                          const Vigia& vigia) {
     const bool todas = filas.Completa() && columnas.Completa();
     if (filas.Cuantas() * (todas ? TamanioVecindad(filas.n(), filas.k(), columnas.k(), t) : 1) > tope) return false;
     const Orbitas deFilas = CadaUnaLaSuya(filas);
     return &filas == &columnas
-               ? RecubrimientoDeOrbitas(filas, deFilas, filas, deFilas, t, tope, problema)
-               : RecubrimientoDeOrbitas(filas, deFilas, columnas, CadaUnaLaSuya(columnas), t, tope, problema);
+               ? RecubrimientoDeOrbitas(filas, deFilas, filas, deFilas, t, tope, problema, vigia)
+               : RecubrimientoDeOrbitas(filas, deFilas, columnas, CadaUnaLaSuya(columnas), t, tope, problema, vigia);
 }

@@ -40,7 +40,8 @@ struct Orbitas {
 };
 
 /// False when the symmetry leads out of the family, or there would be more than `tope` orbits.
-bool HallarOrbitas(const Familia& familia, const Simetria& simetria, int32_t tope, Orbitas& orbitas);
+bool HallarOrbitas(const Familia& familia, const Simetria& simetria, int32_t tope, Orbitas& orbitas,
+                   const Vigia& vigia = {});
 
 /// The members of these orbits.
 std::vector<int32_t> Expandir(const Orbitas& orbitas, const std::vector<int32_t>& elegidas);
@@ -48,7 +49,9 @@ std::vector<int32_t> Expandir(const Orbitas& orbitas, const std::vector<int32_t>
 /// The covering of `filas` by `columnas` that have t in common with them, orbit by orbit. `exigido` is
 /// left at the total. False when there would be more than `tope` pairs.
 bool RecubrimientoDeOrbitas(const Familia& filas, const Orbitas& deFilas, const Familia& columnas,
-                            const Orbitas& deColumnas, int t, int64_t tope, Recubrimiento& problema);
+                            const Orbitas& deColumnas, int t, int64_t tope, Recubrimiento& problema,
+                            const Vigia& vigia = {});
 
 /// The same of the members themselves.
-bool RecubrimientoDirecto(const Familia& filas, const Familia& columnas, int t, int64_t tope, Recubrimiento& problema);
+bool RecubrimientoDirecto(const Familia& filas, const Familia& columnas, int t, int64_t tope, Recubrimiento& problema,
+                          const Vigia& vigia = {});

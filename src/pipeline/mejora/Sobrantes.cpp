@@ -5,11 +5,12 @@
 #include "Vecindad.h"
 
 bool QuitarSobrantes(const Familia& familia, int t, int64_t exigido, std::vector<int32_t>& sistema,
-                     const std::function<bool()>& seguir) {
+                     const Vigia& vigia) {
     std::vector<int32_t> veces(familia.Cuantas());
     int64_t cubierto = 0;
+    const int64_t visitas = 16 * TamanioVecindad(familia.n(), 6, 6, t); // far from each other in memory
     for (const int32_t apuesta : sistema) {
-        if (!seguir()) return false;
+        vigia.Contar(visitas);
         CadaVecina(familia, familia.Mascara(apuesta), t, [&](int32_t vecina) {
             if (veces[vecina]++ == 0) cubierto += familia.Veces(vecina);
         });
@@ -17,8 +18,8 @@ bool QuitarSobrantes(const Familia& familia, int t, int64_t exigido, std::vector
     if (cubierto < exigido) return false;
     std::vector<int32_t> quedan;
     for (size_t i = sistema.size(); i-- > 0;) {
-        if (!seguir()) return false;
         int64_t sola = 0; // what it alone covers
+        vigia.Contar(2 * visitas);
         CadaVecina(familia, familia.Mascara(sistema[i]), t, [&](int32_t vecina) {
             if (veces[vecina] == 1) sola += familia.Veces(vecina);
         });
@@ -34,7 +35,7 @@ bool QuitarSobrantes(const Familia& familia, int t, int64_t exigido, std::vector
     return true;
 }
 
-int32_t CotaInferior(const Familia& familia, int t, int64_t exigido) {
+int32_t CotaInferior(const Familia& familia, int t, int64_t exigido, const Vigia& vigia) {
     constexpr int64_t MaximoTrabajo = 400'000'000;
     const int64_t bola = TamanioVecindad(familia.n(), 6, 6, t);
     const bool contar =
@@ -45,8 +46,10 @@ int32_t CotaInferior(const Familia& familia, int t, int64_t exigido) {
         return static_cast<int32_t>((exigido + bola * veces - 1) / (bola * veces));
     }
     std::vector<int64_t> cubre(familia.Cuantas());
-    for (int32_t i = 0; i < familia.Cuantas(); ++i)
+    for (int32_t i = 0; i < familia.Cuantas(); ++i) {
+        vigia.Contar(std::min<int64_t>(bola, familia.Cuantas()));
         CadaVecina(familia, familia.Mascara(i), t, [&](int32_t vecina) { cubre[i] += familia.Veces(vecina); });
+    }
     std::sort(cubre.rbegin(), cubre.rend());
     int64_t suma = 0;
     int32_t cota = 0;

@@ -1,8 +1,7 @@
 // Every way of the measure against the literal loop.
 #include <gtest/gtest.h>
 
-#include <hwy/targets.h>
-
+#include "DadosFiltros.h"
 #include "GarantiasLiteral.h"
 #include "Sistemas.h"
 
@@ -67,13 +66,11 @@ TEST(MedirGarantias, BasesGrandesEnTodosLosProcesadores) {
         PonerBase(guion, azar, n);
         PonerSistema(guion, azar, apuestas, 9);
         PonerCondicionadas(guion, azar, n == 17 ? 5000 : 50);
-        for (const int64_t procesador : hwy::SupportedAndGeneratedTargets()) {
-            SCOPED_TRACE(hwy::TargetName(procesador));
-            hwy::SetSupportedTargetsForTest(procesador);
+        const auto comparar = [&guion, n = n, k = k] {
             CompararTotal(guion.sesion.trabajo, k);
             if (n <= 22) CompararCandidatas(guion.sesion.trabajo);
-        }
-        hwy::SetSupportedTargetsForTest(0);
+        };
+        EnCadaProcesador(comparar);
     }
 }
 

@@ -1,8 +1,7 @@
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
-#include <hwy/targets.h>
-
+#include "DadosFiltros.h"
 #include "GarantiasLiteral.h"
 #include "Sistemas.h"
 #include "modGeneral.h"
@@ -48,11 +47,7 @@ TEST(MiniGarantias, UnaBaseGrandeEnTodosLosProcesadores) {
     PonerBase(guion, azar, 20);
     PonerSistema(guion, azar, 12, 5);
     const std::string esperado = InformeLiteral(guion.sesion.trabajo);
-    for (const int64_t procesador : hwy::SupportedAndGeneratedTargets()) {
-        hwy::SetSupportedTargetsForTest(procesador);
-        EXPECT_EQ(MiniGarantias(6, guion.sesion.trabajo, SinParar), esperado) << hwy::TargetName(procesador);
-    }
-    hwy::SetSupportedTargetsForTest(0);
+    EnCadaProcesador([&] { EXPECT_EQ(MiniGarantias(6, guion.sesion.trabajo, SinParar), esperado); });
 }
 
 TEST(MiniGarantias, SinSistemaTodoEsCeroYConTodoElBoletoTodoEsCien) {

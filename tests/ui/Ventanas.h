@@ -1,11 +1,14 @@
 // Finding and driving the widgets of a window by the names of its controls.
 //
-//     QTest::mouseClick(Hijo<QAbstractButton>(ventana, "lblNumero_11"), Qt::LeftButton);
+//     Pulsar(ventana, "lblNumero_11");
 //     EnModal([](QDialog& dialogo) { Hijo<QLineEdit>(dialogo, "txtSumaMinima_0")->setText(...); dialogo.close(); });
 #pragma once
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
 #include <QTimer>
 #include <QWidget>
 
@@ -34,6 +37,17 @@ T* Hijo(const QWidget& padre, const std::string& nombre) {
         throw std::runtime_error("no hay " + nombre + " en " + Utf8(padre.objectName()) +
                                  "; hay:" + NombresPresentes<T>(padre));
     return hijo;
+}
+
+inline void Pulsar(const QWidget& ventana, const std::string& boton) {
+    Hijo<QAbstractButton>(ventana, boton)->click();
+}
+
+/// The text of a label or of a line to type in.
+inline std::string Texto(const QWidget& ventana, const std::string& nombre) {
+    auto* const control = Hijo<QWidget>(ventana, nombre);
+    if (const auto* linea = qobject_cast<QLineEdit*>(control)) return Utf8(linea->text());
+    return Utf8(Hijo<QLabel>(ventana, nombre)->text());
 }
 
 /// Runs `accion` on the next modal dialog to open and closes the dialog if it is still open after it.

@@ -25,14 +25,6 @@ struct Algebra : Guion {
     }
 };
 
-void Pulsar(const QWidget& ventana, const std::string& boton) {
-    Hijo<QAbstractButton>(ventana, boton)->click();
-}
-
-std::string Texto(const QWidget& ventana, const std::string& etiqueta) {
-    return Utf8(Hijo<QLabel>(ventana, etiqueta)->text());
-}
-
 } // namespace
 
 TEST(frmAlgebra, DelMenuAlFicheroGuardado) {

@@ -21,10 +21,6 @@
 
 namespace {
 
-std::string Texto(const QWidget& ventana, const std::string& etiqueta) {
-    return Utf8(Hijo<QLabel>(ventana, etiqueta)->text());
-}
-
 QPalette Oscura() {
     QPalette paleta(QColor(0x35, 0x35, 0x38), QColor(0x2b, 0x2b, 0x2e));
     paleta.setColor(QPalette::Base, QColor(0x1f, 0x1f, 0x22));

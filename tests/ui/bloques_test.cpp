@@ -7,7 +7,7 @@
 #include <QListWidget>
 #include <QtTest/QTest>
 
-#include "DialogosFiltro.h"
+#include "FiltroAbierto.h"
 #include "Guion.h"
 #include "Pintores.h"
 #include "Sesiones.h"
@@ -16,30 +16,8 @@
 
 namespace {
 
-std::unique_ptr<QDialog> Abierto(Guion& guion, int k) {
-    auto dialogo = CrearDialogoFiltro(k, guion.sesion, guion.entorno, nullptr);
-    dialogo->show();
-    return dialogo;
-}
-
-bool Activa(const Guion& guion, int k) {
-    return guion.sesion.condiciones.lstFiltros[static_cast<size_t>(k)].Activo;
-}
-
 QAbstractButton* Boton(const QDialog& dialogo, const std::string& nombre) {
     return Hijo<QAbstractButton>(dialogo, nombre);
-}
-
-void Pulsar(const QDialog& dialogo, const std::string& boton) {
-    QTest::mouseClick(Boton(dialogo, boton), Qt::LeftButton);
-}
-
-std::string Rotulo(const QDialog& dialogo, const std::string& nombre) {
-    return Utf8(Hijo<QLabel>(dialogo, nombre)->text());
-}
-
-std::string Texto(const QDialog& dialogo, const std::string& campo) {
-    return Utf8(Hijo<QLineEdit>(dialogo, campo)->text());
 }
 
 void IrA(const QDialog& dialogo, const std::string& grupo) {
@@ -176,19 +154,19 @@ TEST(DialogosDeBloques, PasarDePaginaEIrAUnGrupo) {
         const auto dialogo = Abierto(guion, k);
         EXPECT_FALSE(Boton(*dialogo, "cmdMENOSBloque")->isEnabled());
         Pulsar(*dialogo, "cmdMASBloque");
-        EXPECT_EQ(Rotulo(*dialogo, "lblTitGrupo_0"), "GRUPO 4");
+        EXPECT_EQ(Texto(*dialogo, "lblTitGrupo_0"), "GRUPO 4");
         Pulsar(*dialogo, "cmdMENOSBloque");
-        EXPECT_EQ(Rotulo(*dialogo, "lblTitGrupo_2"), "GRUPO 3");
+        EXPECT_EQ(Texto(*dialogo, "lblTitGrupo_2"), "GRUPO 3");
         EXPECT_FALSE(Boton(*dialogo, Celda(2, 8))->isChecked());
         IrA(*dialogo, "210");
-        EXPECT_EQ(Rotulo(*dialogo, "lblTitGrupo_2"), "GRUPO 210");
+        EXPECT_EQ(Texto(*dialogo, "lblTitGrupo_2"), "GRUPO 210");
         EXPECT_TRUE(Boton(*dialogo, Celda(2, 8))->isChecked());
         EXPECT_FALSE(Boton(*dialogo, "cmdMASBloque")->isEnabled());
         EXPECT_EQ(Utf8(Hijo<QLineEdit>(*dialogo, "txtNumeroGrupo")->selectedText()), "210");
         EXPECT_EQ(guion.Cajas, Textos{});
         IrA(*dialogo, "211");
         EXPECT_EQ(guion.Cajas, Textos{"[X] ERROR: EL NUMERO DE GRUPO DEBE ESTAR ENTRE 1 y 70"});
-        EXPECT_EQ(Rotulo(*dialogo, "lblTitGrupo_2"), "GRUPO 210");
+        EXPECT_EQ(Texto(*dialogo, "lblTitGrupo_2"), "GRUPO 210");
         EXPECT_FALSE(Activa(guion, k));
     }
 }
@@ -202,7 +180,7 @@ TEST(DialogosDeBloques, GRUPOSPideAciertosYPosicionesAntesDeCerrar) {
     IrA(*dialogo, "60");
     dialogo->close();
     EXPECT_TRUE(dialogo->isVisible());
-    EXPECT_EQ(Rotulo(*dialogo, "lblTitGrupo_2"), "GRUPO 60");
+    EXPECT_EQ(Texto(*dialogo, "lblTitGrupo_2"), "GRUPO 60");
     IrA(*dialogo, "5");
     ElegirAcierto(*dialogo, 1, 2);
     EXPECT_EQ(Texto(*dialogo, "txtAciertos_1"), "2");
@@ -251,11 +229,11 @@ TEST(DialogosDeBloques, GRURELACIONADOSPasaDeGrupoYCompactaAlCerrar) {
     IrA(*dialogo, "61");
     EXPECT_EQ(guion.Cajas, Textos{"[X] ERROR: EL NUMERO DE GRUPO DEBE ESTAR ENTRE 1 y 60"});
     IrA(*dialogo, "60");
-    EXPECT_EQ(Rotulo(*dialogo, "lblNumeroGrupo"), "GRUPO 60");
-    EXPECT_EQ(Rotulo(*dialogo, "lblTitGrupo_5"), "SUBGRUPO 360");
+    EXPECT_EQ(Texto(*dialogo, "lblNumeroGrupo"), "GRUPO 60");
+    EXPECT_EQ(Texto(*dialogo, "lblTitGrupo_5"), "SUBGRUPO 360");
     EXPECT_FALSE(Boton(*dialogo, "cmdMASBloque")->isEnabled());
     Pulsar(*dialogo, "cmdMENOSBloque");
-    EXPECT_EQ(Rotulo(*dialogo, "lblTitGrupo_0"), "SUBGRUPO 349");
+    EXPECT_EQ(Texto(*dialogo, "lblTitGrupo_0"), "SUBGRUPO 349");
     Pulsar(*dialogo, Celda(2, 8));
     Pulsar(*dialogo, "cmdMASBloque");
     EXPECT_FALSE(Boton(*dialogo, Celda(2, 8))->isChecked());
@@ -273,7 +251,7 @@ TEST(DialogosDeBloques, GRURELACIONADOSPasaDeGrupoYCompactaAlCerrar) {
     EXPECT_EQ(Numeros(registro.subgrupos[350]), Marcados{});
     EXPECT_EQ(TextoLista(registro.condiciones[352]), "3");
     dialogo = Abierto(guion, kGRUPOSRELACIONADOS);
-    EXPECT_EQ(Rotulo(*dialogo, "lblNumeroGrupo"), "GRUPO 1");
+    EXPECT_EQ(Texto(*dialogo, "lblNumeroGrupo"), "GRUPO 1");
 }
 
 TEST(DialogosDeBloques, VALORACIONESSumaGuardaYRechazaElGrupoAMedias) {
@@ -290,20 +268,20 @@ TEST(DialogosDeBloques, VALORACIONESSumaGuardaYRechazaElGrupoAMedias) {
     siete->setCurrentIndex(60);
     Hijo<QComboBox>(*dialogo, "cboPorcentaje_48")->setCurrentIndex(100);
     EXPECT_TRUE(Activa(guion, kVALORACIONES));
-    EXPECT_EQ(Rotulo(*dialogo, "lblSumaPorcentajes"), "160");
-    EXPECT_EQ(Rotulo(*dialogo, "lblTitNumeros"), "2 Valoraciones Seleccionadas");
+    EXPECT_EQ(Texto(*dialogo, "lblSumaPorcentajes"), "160");
+    EXPECT_EQ(Texto(*dialogo, "lblTitNumeros"), "2 Valoraciones Seleccionadas");
     Pulsar(*dialogo, "cmdMASBloque");
     Pulsar(*dialogo, "imgVolver");
     EXPECT_TRUE(dialogo->isVisible());
     EXPECT_EQ(guion.Cajas, Textos(2, "[X] ERROR GRUPO 1: Hay seleccionadas valoraciones de números y no ha activado "
                                      "ningún intervalo"));
-    EXPECT_EQ(Rotulo(*dialogo, "lblNumeroGrupo"), "GRUPO 1");
+    EXPECT_EQ(Texto(*dialogo, "lblNumeroGrupo"), "GRUPO 1");
     for (const std::string campo : {"txtValoracionMinima_2", "txtValoracionMaxima_2"}) {
         Hijo<QLineEdit>(*dialogo, campo)->selectAll();
         QTest::keyClicks(Hijo<QLineEdit>(*dialogo, campo), QStringLiteral("160"));
     }
     Pulsar(*dialogo, "cmdMASBloque");
-    EXPECT_EQ(Rotulo(*dialogo, "lblNumeroGrupo"), "GRUPO 2");
+    EXPECT_EQ(Texto(*dialogo, "lblNumeroGrupo"), "GRUPO 2");
     EXPECT_EQ(siete->currentIndex(), 0);
     EXPECT_EQ(Texto(*dialogo, "txtValoracionMaxima_2"), "0");
     Pulsar(*dialogo, "imgVolver");
@@ -325,10 +303,10 @@ TEST(DialogosDeBloques, VALORACIONESEscribeYLeeSuFichero) {
     Pulsar(*dialogo, "cmdGuardarPorcentajes");
     Pulsar(*dialogo, "imgININumeros");
     EXPECT_EQ(siete->currentIndex(), 0);
-    EXPECT_EQ(Rotulo(*dialogo, "lblSumaPorcentajes"), "0");
+    EXPECT_EQ(Texto(*dialogo, "lblSumaPorcentajes"), "0");
     Pulsar(*dialogo, "cmdAbrirPorcentajes");
     EXPECT_EQ(siete->currentIndex(), 35);
-    EXPECT_EQ(Rotulo(*dialogo, "lblSumaPorcentajes"), "35");
+    EXPECT_EQ(Texto(*dialogo, "lblSumaPorcentajes"), "35");
     EXPECT_EQ(guion.Cajas, Textos{});
     Pulsar(*dialogo, "cmdAbrirPorcentajes");
     EXPECT_EQ(guion.Cajas, Textos{"[X] ERROR AL CARGAR ALGUNOS O TODOS LOS VALORES DE LOS PORCENTAJES"});

@@ -48,16 +48,8 @@ struct Escrutinio : Guion {
     CarpetaTemporal carpeta;
 };
 
-void Pulsar(const QWidget& ventana, const std::string& boton) {
-    Hijo<QAbstractButton>(ventana, boton)->click();
-}
-
 void Sortear(const QWidget& ventana, std::initializer_list<int> numeros) {
     for (const int n : numeros) Pulsar(ventana, "lblNumero_" + std::to_string(n - 1));
-}
-
-std::string Texto(const QWidget& ventana, const std::string& etiqueta) {
-    return Utf8(Hijo<QLabel>(ventana, etiqueta)->text());
 }
 
 Textos Resultados(const QWidget& ventana) {

@@ -6,7 +6,7 @@
 #include <QtTest/QTest>
 
 #include "Boleto.h"
-#include "DialogosFiltro.h"
+#include "FiltroAbierto.h"
 #include "FiltrosSencillos.h"
 #include "Guion.h"
 #include "LogicaFiltroDISTANCIAS.h"
@@ -15,24 +15,6 @@
 #include "frmAlazar.h"
 
 namespace {
-
-std::unique_ptr<QDialog> Abierto(Guion& guion, int k) {
-    auto dialogo = CrearDialogoFiltro(k, guion.sesion, guion.entorno, nullptr);
-    dialogo->show();
-    return dialogo;
-}
-
-bool Activa(const Guion& guion, int k) {
-    return guion.sesion.condiciones.lstFiltros[static_cast<size_t>(k)].Activo;
-}
-
-void Pulsar(const QDialog& dialogo, const std::string& boton) {
-    QTest::mouseClick(Hijo<QAbstractButton>(dialogo, boton), Qt::LeftButton);
-}
-
-std::string Texto(const QDialog& dialogo, const std::string& campo) {
-    return Utf8(Hijo<QLineEdit>(dialogo, campo)->text());
-}
 
 void Escribir(const QDialog& dialogo, const std::string& campo, const std::string& texto) {
     auto* linea = Hijo<QLineEdit>(dialogo, campo);

@@ -22,10 +22,6 @@
 
 namespace {
 
-void Pulsar(const QWidget& ventana, const std::string& boton) {
-    Hijo<QAbstractButton>(ventana, boton)->click();
-}
-
 std::string Celda(const QWidget& ventana, int fila, int columna) {
     return Utf8(Hijo<QTableWidget>(ventana, "tablaGarantias")->item(fila, columna)->text());
 }

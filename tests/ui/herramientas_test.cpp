@@ -23,14 +23,6 @@
 
 namespace {
 
-void Pulsar(const QWidget& ventana, const std::string& boton) {
-    Hijo<QAbstractButton>(ventana, boton)->click();
-}
-
-std::string Texto(const QWidget& ventana, const std::string& etiqueta) {
-    return Utf8(Hijo<QLabel>(ventana, etiqueta)->text());
-}
-
 void Escribir(const QWidget& ventana, const std::string& campo, const char* texto) {
     auto* linea = Hijo<QLineEdit>(ventana, campo);
     linea->selectAll();

@@ -22,14 +22,6 @@
 
 namespace {
 
-void Pulsar(const QWidget& ventana, const std::string& boton) {
-    Hijo<QAbstractButton>(ventana, boton)->click();
-}
-
-std::string Texto(const QWidget& ventana, const std::string& etiqueta) {
-    return Utf8(Hijo<QLabel>(ventana, etiqueta)->text());
-}
-
 bool Habilitado(const QWidget& ventana, const std::string& control) {
     return Hijo<QWidget>(ventana, control)->isEnabled();
 }
@@ -113,6 +105,12 @@ struct Calculo : Guion {
         ventana.Pintar();
         QApplication::setActiveWindow(&ventana);
         QApplication::processEvents();
+    }
+    /// With the reduction's row on, and no cycles.
+    explicit Calculo(const AjustesReduccion& ajustes) : Calculo() {
+        sesion.trabajo.Reduccion = ajustes;
+        sesion.trabajo.Reduccion.ActivarCiclos = 0;
+        sesion.condiciones.lstFiltros[FilaReduccion].Activo = true;
     }
     void AbrirFila(int k) {
         auto* lista = Hijo<QTreeWidget>(ventana, "lstFiltros");
@@ -253,11 +251,8 @@ TEST(frmVentanaProceso, DelBoletoAlFicheroParandoRepitiendoYAceptando) {
 
 TEST(frmVentanaProceso, VolverDejaElSistemaSinGrabar) {
     const CarpetaTemporal carpeta;
-    Calculo c;
+    Calculo c({.TipoReduccion = 1});
     c.entorno.CarpetaInformes = carpeta.Ruta();
-    c.sesion.trabajo.Reduccion.TipoReduccion = 1;
-    c.sesion.trabajo.Reduccion.ActivarCiclos = 0;
-    c.sesion.condiciones.lstFiltros[FilaReduccion].Activo = true;
     Pasos pasos;
     pasos.Dar(Parada, [&](QDialog& d) {
         EXPECT_EQ(Texto(d, "lblCiclos"), "1");
@@ -276,11 +271,8 @@ TEST(frmVentanaProceso, VolverDejaElSistemaSinGrabar) {
 // Twelve numbers al 5: one cycle leaves 46 bets, and the search for fewer goes on until it is stopped.
 TEST(frmVentanaProceso, MejoraElSistemaYEnsenaSusHuecos) {
     const CarpetaTemporal carpeta;
-    Calculo c;
+    Calculo c({.TipoReduccion = 1});
     c.entorno.CarpetaInformes = carpeta.Ruta();
-    c.sesion.trabajo.Reduccion.TipoReduccion = 1;
-    c.sesion.trabajo.Reduccion.ActivarCiclos = 0;
-    c.sesion.condiciones.lstFiltros[FilaReduccion].Activo = true;
     const auto mejorando = [](QDialog& d) { return Texto(d, "lblEstado") == "Mejorando ..."; };
     const auto menos = [](QDialog& d) { return Hijo<QLabel>(d, "lblApuestasVP")->text().toInt() <= 42; };
     Pasos pasos;
@@ -307,10 +299,7 @@ TEST(frmVentanaProceso, MejoraElSistemaYEnsenaSusHuecos) {
 
 // The window of guarantees opens over the process window, and on the way back nothing runs again.
 TEST(frmVentanaProceso, LasGarantiasNoVuelvenACalcular) {
-    Calculo c;
-    c.sesion.trabajo.Reduccion.TipoReduccion = 2;
-    c.sesion.trabajo.Reduccion.ActivarCiclos = 0;
-    c.sesion.condiciones.lstFiltros[FilaReduccion].Activo = true;
+    Calculo c({.TipoReduccion = 2});
     const auto abierta = [](QDialog& d) { return d.objectName() == Q("frmGarantiasTOTAL") && d.isVisible(); };
     Pasos pasos;
     pasos.Dar(Parada, [](QDialog& d) { Pulsar(d, "imgGarantias"); });
@@ -333,11 +322,7 @@ TEST(frmVentanaProceso, LasGarantiasNoVuelvenACalcular) {
 }
 
 TEST(frmVentanaProceso, UnSistemaSinReducirNoTieneGarantias) {
-    Calculo c;
-    c.sesion.trabajo.Reduccion.ActivarNumeroApuestas = 1;
-    c.sesion.trabajo.Reduccion.NApuestasExactas = 924;
-    c.sesion.trabajo.Reduccion.ActivarCiclos = 0;
-    c.sesion.condiciones.lstFiltros[FilaReduccion].Activo = true;
+    Calculo c({.NApuestasExactas = 924, .ActivarNumeroApuestas = 1});
     Pasos pasos;
     pasos.Dar(Parada, [&](QDialog& d) {
         EXPECT_EQ(Texto(d, "lblApuestasVP"), "924");

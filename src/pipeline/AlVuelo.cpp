@@ -74,10 +74,6 @@ void ExpandirBase(Sesion& aparte, Entorno& entorno) {
     PrepararEliminadas(trabajo);
 }
 
-void RevivirBase(Sesion& aparte) {
-    PrepararEliminadas(aparte.trabajo);
-}
-
 CuentaAlVuelo ContarAlVuelo(Sesion& aparte, Entorno& entorno) {
     EstadoTrabajo& trabajo = aparte.trabajo;
     const int64_t n = trabajo.ApuestasEnTabla;

@@ -16,9 +16,6 @@ std::unique_ptr<Sesion> ApartarBase(const Sesion& sesion);
 /// is there, and none for a base below six numbers. Throws std::bad_alloc.
 void ExpandirBase(Sesion& aparte, Entorno& entorno);
 
-/// Brings all bets of the expanded base to life.
-void RevivirBase(Sesion& aparte);
-
 /// What a row eliminates of the whole base.
 struct CosteCondicion {
     int32_t Sola = 0;              ///< when it is the only one

@@ -8,6 +8,7 @@
 #include "FiltrosSencillos.h"
 #include "Lista.h"
 #include "MarcoFiltro.h"
+#include "Supervivientes.h"
 #include "TextoQt.h"
 #include "TextosAlVuelo.h"
 #include "modGeneral.h"
@@ -109,7 +110,7 @@ void PanelReparto::Actualizar() {
             ExpandirBase(aparte, entorno);
             if (base->conOtras.Filas() == 0) EliminarConOtras(aparte, entorno, k, base->conOtras);
             aparte.condiciones = ahora;
-            RevivirBase(aparte);
+            PrepararEliminadas(aparte.trabajo); // a count that was abandoned leaves its marks
             const Reparto reparto = RepartirFiltro(k, aparte, entorno);
             const int32_t juntas = PasanTambien(aparte, entorno, k, base->conOtras);
             publicar([this, reparto, juntas] { Mostrar(reparto, juntas); });

@@ -12,7 +12,8 @@
 #include "GestorCeldas.h"
 #include "Juegos.h"
 
-/// What the clicks do. Without `numero` the grid only shows; without `fila` and `columna` there are no buttons for whole series.
+/// What the clicks do. Without `numero` the grid only shows; without `fila` and `columna` there are no buttons for
+/// whole series.
 struct OrdenesRejilla {
     std::function<void(int numero)> numero;
     std::function<void(int r)> fila;    ///< the numbers r + 1, r + 11, ...
@@ -22,7 +23,7 @@ struct OrdenesRejilla {
 struct RejillaNumeros {
     QFrame* papel = nullptr;
     QGridLayout* rejilla = nullptr;
-    GestorCeldas* gestor = nullptr; ///< none for a grid that only shows
+    GestorCeldas* gestor = nullptr;                            ///< none for a grid that only shows
     std::array<QToolButton*, NumeroMaximoBoleto + 1> numero{}; ///< from 1
     std::array<QToolButton*, 10> fila{};
     std::array<QToolButton*, 5> columna{};

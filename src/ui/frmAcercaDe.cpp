@@ -5,12 +5,8 @@
 #include "Version.h"
 
 frmAcercaDe::frmAcercaDe(QWidget* padre) : QDialog(padre) {
-    setObjectName(Q("frmAcercaDe"));
-    setWindowTitle(Q("Acerca de ") + Q(NombrePrograma));
-    auto* caja = new QVBoxLayout(this);
-    caja->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
-    caja->setSpacing(Paso);
-    PonerCabecera(*caja, NombrePrograma, "Sistemas de PRIMITIVA, BONOLOTO y EURODREAMS.");
+    QVBoxLayout* caja = EmpezarVentana(*this, "frmAcercaDe", "Acerca de " + std::string(NombrePrograma), NombrePrograma,
+                                       "Sistemas de PRIMITIVA, BONOLOTO y EURODREAMS.");
 
     auto* datos = new QGridLayout;
     datos->setHorizontalSpacing(3 * Paso);

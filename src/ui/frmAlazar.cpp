@@ -7,12 +7,8 @@
 #include "TextoQt.h"
 
 frmAlazar::frmAlazar(EstadoTrabajo& trabajo, QWidget* padre) : QDialog(padre), logica{trabajo} {
-    setObjectName(Q("frmAlazar"));
-    setWindowTitle(Q("Pronóstico Aleatorio"));
-    auto* caja = new QVBoxLayout(this);
-    caja->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
-    caja->setSpacing(Paso);
-    PonerCabecera(*caja, "Pronóstico Aleatorio", "Marca en el boleto números elegidos al azar.");
+    QVBoxLayout* caja = EmpezarVentana(*this, "frmAlazar", "Pronóstico Aleatorio", "Pronóstico Aleatorio",
+                                       "Marca en el boleto números elegidos al azar.");
 
     auto* fila = new QHBoxLayout;
     QComboBox* lista = CrearLista("cboNumeros", "Cuántos números se marcan", Enteros(1, trabajo.NumeroMaximo()));

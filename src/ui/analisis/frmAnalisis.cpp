@@ -26,14 +26,10 @@ frmAnalisis::frmAnalisis(const Sesion& sesion, Entorno& entorno, int32_t apuesta
     : QDialog(padre), logica(sesion, entorno) {
     logica.publicApuestasAnalizar = apuestas;
     logica.Abrir();
-    setObjectName(Q("frmAnalisis"));
-    setWindowTitle(Q("Análisis"));
-    auto* caja = new QVBoxLayout(this);
-    caja->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
-    caja->setSpacing(Paso);
-    PonerCabecera(*caja, "Análisis de las apuestas",
-                  "En cuántas de las " + FormatoMiles(apuestas, entorno.SeparadorMiles) +
-                      " apuestas está cada número. En el mapa, los números más oscuros son los que están en más.");
+    QVBoxLayout* caja =
+        EmpezarVentana(*this, "frmAnalisis", "Análisis", "Análisis de las apuestas",
+                       "En cuántas de las " + FormatoMiles(apuestas, entorno.SeparadorMiles) +
+                           " apuestas está cada número. En el mapa, los números más oscuros son los que están en más.");
     CrearCentro(*caja);
     CrearPie(*caja);
     PonerConsejos();

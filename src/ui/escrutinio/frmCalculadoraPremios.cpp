@@ -41,13 +41,9 @@ QGroupBox* CajaDe(const QGridLayout& rejilla, std::string_view nombre) {
 
 frmCalculadoraPremios::frmCalculadoraPremios(const LogicaEscrutar& escrutar, QWidget* padre)
     : QDialog(padre), logica(escrutar) {
-    setObjectName(Q("frmCalculadoraPremios"));
-    setWindowTitle(Q(logica.Titulo()));
-    auto* caja = new QVBoxLayout(this);
-    caja->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
-    caja->setSpacing(Paso);
-    PonerCabecera(*caja, "Calculadora de Premios",
-                  "Lo que vale lo acertado en la última comprobación. Los euros se escriben o se toman del sorteo.");
+    QVBoxLayout* caja = EmpezarVentana(
+        *this, "frmCalculadoraPremios", logica.Titulo(), "Calculadora de Premios",
+        "Lo que vale lo acertado en la última comprobación. Los euros se escriben o se toman del sorteo.");
     CrearConsulta(*caja);
     auto* columnas = new QHBoxLayout;
     columnas->setSpacing(Paso);

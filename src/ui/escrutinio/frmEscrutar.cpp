@@ -67,18 +67,11 @@ QTreeWidgetItem* CrearFila(const std::string& fila) {
 } // namespace
 
 frmEscrutar::frmEscrutar(Sesion& sesion, Entorno& entorno, QWidget* padre) : QDialog(padre), logica(sesion, entorno) {
-    setObjectName(Q("frmEscrutar"));
-    setWindowTitle(Q(logica.Titulo()));
-    auto* fuera = new QVBoxLayout(this);
-    fuera->setContentsMargins(0, 0, 0, 0);
-    cuerpo = new QWidget;
-    fuera->addWidget(cuerpo);
-    auto* caja = new QVBoxLayout(cuerpo);
-    caja->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
-    caja->setSpacing(Paso);
-    PonerCabecera(*caja, "Escrutar",
-                  "Comprueba un sistema con un sorteo: cuántas apuestas hay de cada categoría y qué boletos tienen "
-                  "premio. Marque los números premiados y pulse «Escrutar».");
+    QVBoxLayout* fuera = EmpezarVentana(
+        *this, "frmEscrutar", logica.Titulo(), "Escrutar",
+        "Comprueba un sistema con un sorteo: cuántas apuestas hay de cada categoría y qué boletos tienen "
+        "premio. Marque los números premiados y pulse «Escrutar».");
+    QVBoxLayout* caja = CrearCuerpo(*fuera, cuerpo);
     auto* columnas = new QHBoxLayout;
     columnas->setSpacing(Paso);
     caja->addLayout(columnas, 1);

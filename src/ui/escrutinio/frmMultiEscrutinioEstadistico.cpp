@@ -48,19 +48,11 @@ int SorteoDeLinea(const QPlainTextEdit& texto, int linea) {
 
 frmMultiEscrutinioEstadistico::frmMultiEscrutinioEstadistico(Sesion& sesion, Entorno& entorno, QWidget* padre)
     : QDialog(padre), logica(sesion, entorno) {
-    setObjectName(Q("frmMultiEscrutinioEstadistico"));
-    setWindowTitle(Q(logica.Titulo()));
-    auto* fuera = new QVBoxLayout(this);
-    fuera->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
-    fuera->setSpacing(Paso);
-    cuerpo = new QWidget;
-    fuera->addWidget(cuerpo, 1);
-    auto* caja = new QVBoxLayout(cuerpo);
-    caja->setContentsMargins(0, 0, 0, 0);
-    caja->setSpacing(Paso);
-    PonerCabecera(*caja, "MultiEscrutinio Estadístico",
-                  "Juega un fichero de apuestas en los sorteos de la historia y dice cuánto habría ganado con los "
-                  "premios que se pagaron. Cargue los sorteos, abra el fichero y pulse «Escrutar».");
+    QVBoxLayout* fuera =
+        EmpezarVentana(*this, "frmMultiEscrutinioEstadistico", logica.Titulo(), "MultiEscrutinio Estadístico",
+                       "Juega un fichero de apuestas en los sorteos de la historia y dice cuánto habría ganado con los "
+                       "premios que se pagaron. Cargue los sorteos, abra el fichero y pulse «Escrutar».");
+    QVBoxLayout* caja = CrearCuerpo(*fuera, cuerpo);
     auto* columnas = new QHBoxLayout;
     columnas->setSpacing(Paso);
     caja->addLayout(columnas, 1);

@@ -16,19 +16,11 @@ constexpr int FilasFicheros = 6, FilasInforme = 12;
 
 frmMultiEscrutinioMultiFichero::frmMultiEscrutinioMultiFichero(Sesion& sesion, Entorno& entorno, QWidget* padre)
     : QDialog(padre), logica(sesion, entorno) {
-    setObjectName(Q("frmMultiEscrutinioMultiFichero"));
-    setWindowTitle(Q(logica.Titulo()));
-    auto* fuera = new QVBoxLayout(this);
-    fuera->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
-    fuera->setSpacing(Paso);
-    cuerpo = new QWidget;
-    fuera->addWidget(cuerpo, 1);
-    auto* caja = new QVBoxLayout(cuerpo);
-    caja->setContentsMargins(0, 0, 0, 0);
-    caja->setSpacing(Paso);
-    PonerCabecera(*caja, "MultiEscrutinio MultiFichero",
-                  "Cuenta los aciertos de muchos ficheros de apuestas en una lista de sorteos, una fila por fichero. "
-                  "Los ficheros también pueden soltarse sobre la ventana, todos a la vez.");
+    QVBoxLayout* fuera = EmpezarVentana(
+        *this, "frmMultiEscrutinioMultiFichero", logica.Titulo(), "MultiEscrutinio MultiFichero",
+        "Cuenta los aciertos de muchos ficheros de apuestas en una lista de sorteos, una fila por fichero. "
+        "Los ficheros también pueden soltarse sobre la ventana, todos a la vez.");
+    QVBoxLayout* caja = CrearCuerpo(*fuera, cuerpo);
     CrearSorteos(*caja);
     CrearFicheros(*caja);
     CrearResultados(*caja);

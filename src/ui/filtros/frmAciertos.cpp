@@ -9,12 +9,9 @@
 #include "TextoQt.h"
 
 frmAciertos::frmAciertos(LogicaAciertos& l, const QString& titulo, QWidget* padre) : QDialog(padre), logica(l) {
-    setObjectName(Q("frmAciertos"));
-    setWindowTitle(QStringLiteral("Aciertos"));
-    auto* caja = new QVBoxLayout(this);
-    caja->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
-    caja->setSpacing(Paso);
-    PonerCabecera(*caja, Utf8(titulo.section(QLatin1Char(':'), 0, 0).trimmed()), "Marque los aciertos permitidos.");
+    QVBoxLayout* caja =
+        EmpezarVentana(*this, "frmAciertos", "Aciertos", Utf8(titulo.section(QLatin1Char(':'), 0, 0).trimmed()),
+                       "Marque los aciertos permitidos.");
 
     auto* fila = new QHBoxLayout;
     fila->setSpacing(Paso);

@@ -18,13 +18,8 @@ constexpr int AnchoBarra = 1000, LineasResumen = 7;
 
 frmGarantiasTOTAL::frmGarantiasTOTAL(Sesion& sesion, Entorno& entorno, QWidget* padre)
     : QDialog(padre), logica(sesion, entorno) {
-    setObjectName(Q("frmGarantiasTOTAL"));
-    setWindowTitle(Q("Cálculo de Garantías y de Porcentajes"));
-    auto* caja = new QVBoxLayout(this);
-    caja->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
-    caja->setSpacing(Paso);
-    PonerCabecera(
-        *caja, "Cálculo de Garantías y de Porcentajes",
+    QVBoxLayout* caja = EmpezarVentana(
+        *this, "frmGarantiasTOTAL", "Cálculo de Garantías y de Porcentajes", "Cálculo de Garantías y de Porcentajes",
         "Qué asegura el sistema final caiga como caiga el sorteo: en qué parte de los casos hay premio de cada "
         "nivel, y cuántas apuestas de cada uno, de menos a más.");
     CrearOpciones(*caja);

@@ -29,15 +29,11 @@ QLabel* Etiqueta(std::string_view nombre, size_t i, Qt::Alignment lado) {
 } // namespace
 
 frmAlgebra::frmAlgebra(Sesion& sesion, Entorno& entorno, QWidget* padre) : QDialog(padre), logica{sesion, entorno} {
-    setObjectName(Q("frmAlgebra"));
     logica.Abrir();
-    setWindowTitle(Q(logica.Titulo()));
-    auto* caja = new QVBoxLayout(this);
-    caja->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
-    caja->setSpacing(Paso);
-    PonerCabecera(*caja, "Álgebra de combinaciones",
-                  "Ordena las apuestas de un fichero, o hace de dos ficheros un tercero: los suma, toma las apuestas "
-                  "comunes o quita de uno las del otro.");
+    QVBoxLayout* caja = EmpezarVentana(
+        *this, "frmAlgebra", logica.Titulo(), "Álgebra de combinaciones",
+        "Ordena las apuestas de un fichero, o hace de dos ficheros un tercero: los suma, toma las apuestas "
+        "comunes o quita de uno las del otro.");
     controles = new QWidget;
     auto* columnas = new QHBoxLayout(controles);
     columnas->setContentsMargins(0, 0, 0, 0);

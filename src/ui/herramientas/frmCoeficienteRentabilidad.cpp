@@ -16,14 +16,10 @@ constexpr int AnchoNombre = 420;
 
 frmCoeficienteRentabilidad::frmCoeficienteRentabilidad(Sesion& sesion, Entorno& entorno, QWidget* padre)
     : QDialog(padre), logica{sesion, entorno} {
-    setObjectName(Q("frmCoeficienteRentabilidad"));
-    setWindowTitle(Q("Utilidad Coeficiente Rentablidad"));
-    auto* caja = new QVBoxLayout(this);
-    caja->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
-    caja->setSpacing(Paso);
-    PonerCabecera(*caja, "Coeficiente de rentabilidad",
-                  "Reparte las apuestas de un fichero según su coeficiente, el producto de las probabilidades reales "
-                  "de sus números entre el de las apostadas, y guarda las de los coeficientes que elija.");
+    QVBoxLayout* caja = EmpezarVentana(
+        *this, "frmCoeficienteRentabilidad", "Utilidad Coeficiente Rentablidad", "Coeficiente de rentabilidad",
+        "Reparte las apuestas de un fichero según su coeficiente, el producto de las probabilidades reales "
+        "de sus números entre el de las apostadas, y guarda las de los coeficientes que elija.");
     controles = new QWidget;
     auto* todo = new QVBoxLayout(controles);
     todo->setContentsMargins(0, 0, 0, 0);

@@ -8,7 +8,7 @@
 
 frmGeneradorApuestas::frmGeneradorApuestas(EstadoTrabajo& trabajo, Entorno& entorno, QWidget* padre)
     : QDialog(padre), logica(trabajo, entorno) {
-    QVBoxLayout* caja = EmpezarHerramienta(
+    QVBoxLayout* caja = EmpezarVentana(
         *this, "frmGeneradorApuestas", "GENERAR APUESTAS ALEATORIAS POR NUMEROS", "Apuestas al azar por números",
         "Elige al azar, sin repetirlas, apuestas de las que se forman con los números marcados.");
     auto* fila = new QHBoxLayout;

@@ -22,10 +22,10 @@ frmGeneradorApuestasXPorcentaje::frmGeneradorApuestasXPorcentaje(EstadoTrabajo& 
                                                                  QWidget* padre)
     : QDialog(padre), logica(trabajo, entorno) {
     QVBoxLayout* caja =
-        EmpezarHerramienta(*this, "frmGeneradorApuestasXPorcentaje", "GENERAR APUESTAS ALEATORIAS POR PORCENTAJES",
-                           "Apuestas al azar por porcentajes",
-                           "Cada número elegido sale en el tanto por ciento de las apuestas que se le pone; el resto "
-                           "de cada apuesta se completa al azar.");
+        EmpezarVentana(*this, "frmGeneradorApuestasXPorcentaje", "GENERAR APUESTAS ALEATORIAS POR PORCENTAJES",
+                       "Apuestas al azar por porcentajes",
+                       "Cada número elegido sale en el tanto por ciento de las apuestas que se le pone; el resto "
+                       "de cada apuesta se completa al azar.");
     CrearListas(*caja);
     CrearPedido(*caja);
     caja->addWidget(new QLabel(Q("NOTA : Pueden generarse apuestas repetidas.")));

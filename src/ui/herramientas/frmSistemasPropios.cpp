@@ -40,7 +40,7 @@ QVBoxLayout* Columna(QHBoxLayout& fila, QLabel*& titulo, std::string_view encabe
 
 frmSistemasPropios::frmSistemasPropios(EstadoTrabajo& trabajo, Entorno& entorno, QWidget* padre)
     : QDialog(padre), logica(trabajo, entorno) {
-    QVBoxLayout* caja = EmpezarHerramienta(
+    QVBoxLayout* caja = EmpezarVentana(
         *this, "frmSistemasPropios", "SISTEMAS PROPIOS", "Sistemas propios",
         "Pasa un sistema ya hecho a otros números, con la misma garantía: cada número de origen deja su sitio a uno "
         "de destino.");

@@ -2,8 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <QGroupBox>
-#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -11,9 +9,7 @@
 #include <string_view>
 
 #include "LogicaMarco.h"
-
-/// The distance between things that belong together, and twice it around what holds them.
-inline constexpr int Paso = 8;
+#include "Ventana.h"
 
 class PanelReparto;
 struct PeticionReparto;
@@ -41,17 +37,3 @@ void TerminarMarco(MarcoFiltro& piezas, QDialog& dialogo, LogicaMarco& marco, st
 
 /// Shows the switch as the row says, and the picture of the base as the settings say.
 void PintarMarco(const MarcoFiltro& piezas, const LogicaMarco& marco);
-
-/// A dialog's heading and the sentence under it, in any dialog.
-void PonerCabecera(QVBoxLayout& caja, std::string_view titulo, std::string_view frase);
-
-/// Makes the finished dialog as large as it must be to show all it has, and never smaller. By itself the
-/// toolkit reckons with fewer lines than a wrapped text takes, and with two thirds of the screen at most.
-void AjustarTamanio(QDialog& dialogo);
-
-/// A captioned box for a grid of content.
-QGridLayout* CrearCaja(QBoxLayout& donde, std::string_view titulo);
-
-/// A button that Enter presses only when it has the focus.
-QPushButton* CrearBoton(std::string_view nombre, std::string_view texto, std::string_view ayuda,
-                        std::function<void()> alPulsar);

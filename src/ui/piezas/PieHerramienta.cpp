@@ -4,17 +4,6 @@
 #include "MarcoFiltro.h"
 #include "TextoQt.h"
 
-QVBoxLayout* EmpezarHerramienta(QDialog& dialogo, std::string_view nombre, std::string_view titulo,
-                                std::string_view cabecera, std::string_view frase) {
-    dialogo.setObjectName(Q(nombre));
-    dialogo.setWindowTitle(Q(titulo));
-    auto* caja = new QVBoxLayout(&dialogo);
-    caja->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
-    caja->setSpacing(Paso);
-    PonerCabecera(*caja, cabecera, frase);
-    return caja;
-}
-
 QPushButton* TerminarHerramienta(QDialog& dialogo, QVBoxLayout& caja, QPushButton& principal) {
     auto* pie = new QHBoxLayout;
     pie->setContentsMargins(0, Paso, 0, 0);

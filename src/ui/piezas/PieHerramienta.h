@@ -1,4 +1,4 @@
-// What the windows of the tools have in common: heading, foot, figures, the drawing of numbers by lot.
+// What the windows of the tools have in common: foot, figures, the drawing of numbers by lot.
 #pragma once
 
 #include <QComboBox>
@@ -11,11 +11,7 @@
 #include <functional>
 #include <string_view>
 
-/// Names and titles the dialog and heads it; the layout that its content goes to.
-QVBoxLayout* EmpezarHerramienta(QDialog& dialogo, std::string_view nombre, std::string_view titulo,
-                                std::string_view cabecera, std::string_view frase);
-
-/// Ends it with the tool's main button and "Cerrar", which is returned and closes it through `reject`.
+/// Ends the dialog with the tool's main button and "Cerrar", which is returned and closes it through `reject`.
 QPushButton* TerminarHerramienta(QDialog& dialogo, QVBoxLayout& caja, QPushButton& principal);
 
 /// A caption and, to the right, a figure called `nombre`.

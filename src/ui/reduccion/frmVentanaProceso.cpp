@@ -59,12 +59,8 @@ QLabel* CrearDato(QGridLayout& rejilla, std::string_view nombre, std::string_vie
 } // namespace
 
 frmVentanaProceso::frmVentanaProceso(LogicaVentanaProceso& l, QWidget* padre) : QDialog(padre), logica(l) {
-    setObjectName(Q("frmVentanaProceso"));
-    setWindowTitle(Q("Proceso de reducción"));
-    auto* caja = new QVBoxLayout(this);
-    caja->setContentsMargins(2 * Paso, 2 * Paso, 2 * Paso, 2 * Paso);
-    caja->setSpacing(Paso);
-    PonerCabecera(*caja, "Proceso de reducción", Frase(logica.sesion.trabajo.Reduccion));
+    QVBoxLayout* caja = EmpezarVentana(*this, "frmVentanaProceso", "Proceso de reducción", "Proceso de reducción",
+                                       Frase(logica.sesion.trabajo.Reduccion));
     CrearContadores(*caja);
     CrearCentro(*caja);
     CrearPie(*caja);

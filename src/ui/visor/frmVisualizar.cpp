@@ -14,9 +14,8 @@
 
 frmVisualizar::frmVisualizar(EstadoTrabajo& trabajo, Entorno& entorno, QWidget* padre)
     : QDialog(padre), logica(trabajo, entorno) {
-    QVBoxLayout* caja =
-        EmpezarHerramienta(*this, "frmVisualizar", logica.Titulo(), "Visualizar archivo de apuestas",
-                           "Las apuestas de un fichero, boleto a boleto, tal como se rellenan en papel.");
+    QVBoxLayout* caja = EmpezarVentana(*this, "frmVisualizar", logica.Titulo(), "Visualizar archivo de apuestas",
+                                       "Las apuestas de un fichero, boleto a boleto, tal como se rellenan en papel.");
     fichero = CrearFilaFichero(*caja, {"cmdDesdeFichero", "Abrir archivo", "Abre un fichero de apuestas o de texto",
                                        "txtFicheroASCII", "lblApuestas",
                                        [this] { Trabajar([this] { logica.cmdDesdeFichero(); }); }});

@@ -54,28 +54,22 @@ class Finales {
     std::array<size_t, NumeroMaximoBoleto + 1> primero_{};
 };
 
-// By ending, as often as there are `planos`. Bets that share an ending differ in the beginning: fewer than
-// 16 bits hold.
-class PorFinal {
+// By ending, or by what else the bets in one place share. They differ in the beginning: fewer than 16 bits
+// hold.
+class PorLugar {
   public:
-    explicit PorFinal(const Finales& finales, size_t planos = 1)
-        : paso_(finales.Cuantos()), pasan_(planos * paso_ + HolguraRecuento), rechazadas_(pasan_.size()) {}
+    explicit PorLugar(size_t lugares) : pasan_(lugares + HolguraRecuento), rechazadas_(pasan_.size()) {}
 
-    CuentaValor Sumar(const uint8_t* estados, size_t n, size_t lugar, size_t plano = 0) {
-        lugar += plano * paso_;
+    CuentaValor Sumar(const uint8_t* estados, size_t n, size_t lugar) {
         return NucleoSumarEstados(estados, n, pasan_.data() + lugar, rechazadas_.data() + lugar);
     }
-    CuentaValor De(size_t lugar, size_t plano = 0) const {
-        lugar += plano * paso_;
-        return {pasan_[lugar] + rechazadas_[lugar], pasan_[lugar]};
-    }
+    CuentaValor De(size_t lugar) const { return {pasan_[lugar] + rechazadas_[lugar], pasan_[lugar]}; }
     void Borrar() {
         std::fill(pasan_.begin(), pasan_.end(), uint16_t{0});
         std::fill(rechazadas_.begin(), rechazadas_.end(), uint16_t{0});
     }
 
   private:
-    size_t paso_;
     std::vector<uint16_t> pasan_, rechazadas_;
 };
 
@@ -101,7 +95,7 @@ void RecorrerInicios(EstadoTrabajo& trabajo, Entorno& entorno, Tratar tratar, Ce
 
 void ContarEnOrden(EstadoTrabajo& trabajo, Entorno& entorno, const VisitaCuatro& inicio, const VisitaCuatro& fin) {
     const Finales finales(trabajo);
-    PorFinal cuentas(finales);
+    PorLugar cuentas(finales.Cuantos());
     const auto tratar = [&](size_t p1, size_t p2, size_t p3, const uint8_t* estados) {
         for (size_t p4 = p3 + 1; p4 + 2 <= static_cast<size_t>(trabajo.NumerosBase); ++p4) {
             inicio(p1, p2, p3, p4, cuentas.Sumar(estados, finales.ConCuarta(p4), finales.Primero(p4)));
@@ -115,20 +109,32 @@ void ContarEnOrden(EstadoTrabajo& trabajo, Entorno& entorno, const VisitaCuatro&
     });
 }
 
+// Bets with the same fourth position and the same sum in front of it share the places of that position's endings.
 std::vector<CuentaValor> ContarSumasEnOrden(EstadoTrabajo& trabajo, Entorno& entorno, const PorPosicion& valor) {
-    constexpr size_t Sumas = 3 * 9 + 1; // of three positions
+    const auto n = static_cast<size_t>(trabajo.NumerosBase);
     const Finales finales(trabajo);
-    const auto suma = [&](size_t a, size_t b, size_t c) { return static_cast<size_t>(valor[a] + valor[b] + valor[c]); };
-    PorFinal porSuma(finales, Sumas);
+    std::array<size_t, NumeroMaximoBoleto + 1> desde{}, sumas{}; // of each fourth position: first place, sums in front
+    size_t lugares = 0;
+    for (size_t p4 = 4; p4 + 2 <= n; ++p4) {
+        const size_t mayor = *std::max_element(valor.begin() + 1, valor.begin() + static_cast<std::ptrdiff_t>(p4));
+        desde[p4] = lugares;
+        sumas[p4] = 3 * mayor + 1;
+        lugares += sumas[p4] * finales.ConCuarta(p4);
+    }
+    PorLugar cuentas(lugares);
     const auto tratar = [&](size_t p1, size_t p2, size_t p3, const uint8_t* estados) {
-        const size_t primero = finales.Primero(p3 + 1);
-        porSuma.Sumar(estados, finales.Cuantos() - primero, primero, suma(p1, p2, p3));
+        const auto suma = static_cast<size_t>(valor[p1] + valor[p2] + valor[p3]);
+        for (size_t p4 = p3 + 1; p4 + 2 <= n; ++p4) {
+            cuentas.Sumar(estados, finales.ConCuarta(p4), desde[p4] + suma * finales.ConCuarta(p4));
+            estados += finales.ConCuarta(p4);
+        }
     };
     RecorrerInicios(trabajo, entorno, tratar, [](size_t) {});
-    std::vector<CuentaValor> cuentas(2 * Sumas - 1);
-    for (size_t s = 0; s < Sumas; ++s)
-        finales.Recorrer(1, [&](size_t p4, size_t p5, size_t p6, size_t lugar) {
-            cuentas[s + suma(p4, p5, p6)].Sumar(porSuma.De(lugar, s));
-        });
-    return cuentas;
+    std::vector<CuentaValor> porSuma(6 * size_t{*std::max_element(valor.begin(), valor.end())} + 1);
+    finales.Recorrer(4, [&](size_t p4, size_t p5, size_t p6, size_t lugar) {
+        const auto final = static_cast<size_t>(valor[p4] + valor[p5] + valor[p6]);
+        const size_t suyo = desde[p4] + lugar - finales.Primero(p4);
+        for (size_t s = 0; s < sumas[p4]; ++s) porSuma[s + final].Sumar(cuentas.De(suyo + s * finales.ConCuarta(p4)));
+    });
+    return porSuma;
 }

@@ -21,5 +21,5 @@ using VisitaCuatro = std::function<void(size_t, size_t, size_t, size_t, const Cu
 void ContarEnOrden(EstadoTrabajo& trabajo, Entorno& entorno, const VisitaCuatro& inicio, const VisitaCuatro& fin);
 
 /// Live bets of such a table by the sum, from 0 on, of what `valor` holds for their six positions: values of
-/// 0 to 9. Yields as a sweep does; takes 2 MB.
+/// 0 to 49. Yields as a sweep does; takes 3 MB at most.
 std::vector<CuentaValor> ContarSumasEnOrden(EstadoTrabajo& trabajo, Entorno& entorno, const PorPosicion& valor);

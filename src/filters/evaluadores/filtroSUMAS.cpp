@@ -1,4 +1,5 @@
 #include "Apartados.h"
+#include "EnOrden.h"
 #include "Evaluadores.h"
 #include "Intervalos.h"
 #include "Repartidores.h"
@@ -10,15 +11,23 @@ int32_t FiltrarSUMAS(Sesion& sesion, Entorno& entorno) {
     return Barrer(sesion.trabajo, entorno, [&](const Tramo& tramo) { return NucleoSumas(tramo, tablas); });
 }
 
-Apartados RepartirSUMAS(Sesion& sesion, Entorno& entorno) {
-    const PorPosicion numero = NumeroDeCadaPosicion(sesion.trabajo);
+namespace {
+
+Cuentas ContarSumas(EstadoTrabajo& trabajo, Entorno& entorno, const PorPosicion& numero) {
+    if (EsExpansionEntera(trabajo)) return ContarSumasEnOrden(trabajo, entorno, numero);
     const FilasDeTramo<2> filas; // half the sum, and what is left
     CuentaPalabras cuenta;
-    BarrerContando(sesion.trabajo, entorno, [&](const Tramo& tramo) {
+    BarrerContando(trabajo, entorno, [&](const Tramo& tramo) {
         FilasSuma(tramo, numero, filas.Todas());
         NucleoContarBytes(tramo, filas[0], filas[1], cuenta);
     });
     Cuentas cuentas;
     for (size_t s = 0; s < 512; ++s) cuentas.push_back(cuenta.De(s / 2 + s % 2 * 256));
-    return {ApartadoRecortado("Suma", cuentas)};
+    return cuentas;
+}
+
+} // namespace
+
+Apartados RepartirSUMAS(Sesion& sesion, Entorno& entorno) {
+    return {ApartadoRecortado("Suma", ContarSumas(sesion.trabajo, entorno, NumeroDeCadaPosicion(sesion.trabajo)))};
 }

@@ -80,15 +80,12 @@ int32_t FiltrarVALORACIONES(Sesion& sesion, Entorno& entorno) {
 // Groups with marks and no interval yet are told too.
 Apartados RepartirVALORACIONES(Sesion& sesion, Entorno& entorno) {
     std::vector<GrupoContado> grupos = GruposParaContar(sesion);
-    const FilasDeTramo<2> filas;
     BarrerContando(sesion.trabajo, entorno, [&](const Tramo& tramo) {
         for (GrupoContado& grupo : grupos) {
-            if (!grupo.EnPalabras()) {
+            if (grupo.EnPalabras())
+                NucleoContarSumas(tramo, grupo.Tablas.Marca, static_cast<int16_t>(grupo.Minimo), grupo.Palabras);
+            else
                 ContarUnaAUna(tramo, grupo);
-                continue;
-            }
-            FilasPalabras(tramo, grupo.Tablas.Marca, static_cast<int16_t>(grupo.Minimo), filas.Todas());
-            NucleoContarBytes(tramo, filas[0], filas[1], grupo.Palabras);
         }
     });
     Apartados apartados;

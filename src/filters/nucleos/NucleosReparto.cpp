@@ -8,7 +8,7 @@
 #define HWY_TARGET_INCLUDE "NucleosReparto.cpp"
 #include <hwy/foreach_target.h>
 
-#include "Vectores-inl.h"
+#include "SumaPalabras-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace {
@@ -27,8 +27,11 @@ void Pares(const Tramo& tramo, const uint8_t* valores, CuentaAciertos& baja, Cue
 void Bytes2(const Tramo& tramo, const uint8_t* baja, const uint8_t* alta, CuentaPalabras& cuenta) {
     NucleoContarBytesEscalar(tramo, baja, alta, cuenta);
 }
-void Palabras(const Tramo& tramo, const uint16_t* valores, CuentaPalabras& cuenta) {
+void DePalabras(const Tramo& tramo, const uint16_t* valores, CuentaPalabras& cuenta) {
     NucleoContarPalabrasEscalar(tramo, valores, cuenta);
+}
+void DeSumas(const Tramo& tramo, const PalabrasPorPosicion& valores, int16_t minimo, CuentaPalabras& cuenta) {
+    NucleoContarSumasEscalar(tramo, valores, minimo, cuenta);
 }
 CuentaValor SumarEstados(const uint8_t* estados, size_t n, uint16_t* pasan, uint16_t* rechazadas) {
     return NucleoSumarEstadosEscalar(estados, n, pasan, rechazadas);
@@ -135,7 +138,6 @@ void Pares(const Tramo& tramo, const uint8_t* valores, CuentaAciertos& baja, Cue
 }
 
 CuentaValor SumarEstados(const uint8_t* estados, size_t n, uint16_t* pasan, uint16_t* rechazadas) {
-    const hn::ScalableTag<uint16_t> d16;
     const hn::Half<Bytes> mitad;
     size_t suyas[2] = {};
     for (size_t i = 0; i < n; i += hn::Lanes(d16)) {
@@ -209,8 +211,6 @@ class RecuentoPalabras {
             for (size_t t = 0; t < CuentaPalabras::Turnos; ++t) ++cuentas_[t][lugar[j + t]];
     }
 
-    static constexpr hn::RepartitionToWide<Bytes> d16{};
-
     int32_t* cuentas_[CuentaPalabras::Turnos];
     static constexpr int MayorPausa = 31;
     int variados_ = 0; // vectors yet to be counted one bet at a time
@@ -224,22 +224,43 @@ void Bytes2(const Tramo& tramo, const uint8_t* baja, const uint8_t* alta, Cuenta
 }
 
 // Words have the state in their highest bit; those of dead bets are all alike.
-void Palabras(const Tramo& tramo, const uint16_t* valores, CuentaPalabras& cuenta) {
-    const hn::ScalableTag<uint16_t> d16;
-    const hn::Half<Bytes> mitad;
-    constexpr size_t ancho = hn::MaxLanes(d16);
-    int32_t* cuentas[CuentaPalabras::Turnos];
-    for (size_t t = 0; t < CuentaPalabras::Turnos; ++t) cuentas[t] = cuenta.Cuentas(t);
-    for (int64_t i = 0; i < tramo.n; i += static_cast<int64_t>(ancho)) {
-        const auto estado = hn::PromoteTo(d16, hn::Load(mitad, tramo.eliminada + i));
+class RecuentoDePalabras {
+  public:
+    explicit RecuentoDePalabras(CuentaPalabras& cuenta) {
+        for (size_t t = 0; t < CuentaPalabras::Turnos; ++t) cuentas_[t] = cuenta.Cuentas(t);
+    }
+    HWY_INLINE void Contar(V16 valores, V16 estado) {
         const auto muertas = hn::Eq(estado, hn::Set(d16, ApuestaMuerta));
-        const auto rechazo = hn::Or(hn::ShiftLeft<15>(estado), hn::ShiftLeft<7>(estado));
+        const V16 rechazo = hn::Or(hn::ShiftLeft<15>(estado), hn::ShiftLeft<7>(estado));
+        constexpr size_t ancho = hn::MaxLanes(d16);
         HWY_ALIGN uint16_t lugar[ancho];
-        hn::Store(hn::IfThenElse(muertas, hn::Set(d16, CuentaPalabras::Lugar(0, ApuestaMuerta)),
-                                 hn::Xor(hn::LoadU(d16, valores + i), rechazo)),
-                  d16, lugar);
+        hn::Store(
+            hn::IfThenElse(muertas, hn::Set(d16, CuentaPalabras::Lugar(0, ApuestaMuerta)), hn::Xor(valores, rechazo)),
+            d16, lugar);
         for (size_t j = 0; j < ancho; j += CuentaPalabras::Turnos)
-            for (size_t t = 0; t < CuentaPalabras::Turnos; ++t) ++cuentas[t][lugar[j + t]];
+            for (size_t t = 0; t < CuentaPalabras::Turnos; ++t) ++cuentas_[t][lugar[j + t]];
+    }
+
+  private:
+    int32_t* cuentas_[CuentaPalabras::Turnos];
+};
+
+void DePalabras(const Tramo& tramo, const uint16_t* valores, CuentaPalabras& cuenta) {
+    const hn::Half<Bytes> mitad;
+    RecuentoDePalabras recuento(cuenta);
+    for (int64_t i = 0; i < tramo.n; i += static_cast<int64_t>(hn::Lanes(d16)))
+        recuento.Contar(hn::LoadU(d16, valores + i), hn::PromoteTo(d16, hn::Load(mitad, tramo.eliminada + i)));
+}
+
+void DeSumas(const Tramo& tramo, const PalabrasPorPosicion& valores, int16_t minimo, CuentaPalabras& cuenta) {
+    const SumaPalabras sumar(valores);
+    const V16 menor = hn::Set(d16, static_cast<uint16_t>(minimo));
+    RecuentoDePalabras recuento(cuenta);
+    for (int64_t i = 0; i < tramo.n; i += static_cast<int64_t>(hn::Lanes(d))) {
+        const ParPalabras suma = sumar(tramo, i);
+        const V16 estado = hn::BitCast(d16, hn::Load(d, tramo.eliminada + i));
+        recuento.Contar(hn::Sub(suma.pares, menor), hn::And(estado, hn::Set(d16, 0xFF)));
+        recuento.Contar(hn::Sub(suma.impares, menor), hn::ShiftRight<8>(estado));
     }
 }
 
@@ -254,7 +275,8 @@ HWY_EXPORT(Aciertos);
 HWY_EXPORT(Figuras);
 HWY_EXPORT(Pares);
 HWY_EXPORT(Bytes2);
-HWY_EXPORT(Palabras);
+HWY_EXPORT(DePalabras);
+HWY_EXPORT(DeSumas);
 HWY_EXPORT(SumarEstados);
 
 alignas(64) constexpr std::array<uint8_t, ApuestasPorTurno + 128> Ceros{};
@@ -321,7 +343,19 @@ void NucleoContarBytesEscalar(const Tramo& tramo, const uint8_t* baja, const uin
 }
 
 void NucleoContarPalabras(const Tramo& tramo, const uint16_t* valores, CuentaPalabras& cuenta) {
-    HWY_DYNAMIC_DISPATCH(Palabras)(tramo, valores, cuenta);
+    HWY_DYNAMIC_DISPATCH(DePalabras)(tramo, valores, cuenta);
+}
+
+void NucleoContarSumas(const Tramo& tramo, const PalabrasPorPosicion& valores, int16_t minimo, CuentaPalabras& cuenta) {
+    HWY_DYNAMIC_DISPATCH(DeSumas)(tramo, valores, minimo, cuenta);
+}
+
+void NucleoContarSumasEscalar(const Tramo& tramo, const PalabrasPorPosicion& valores, int16_t minimo,
+                              CuentaPalabras& cuenta) {
+    std::array<uint16_t, ApuestasPorTurno + 64> sumas;
+    for (int64_t i = 0; i < tramo.n; ++i)
+        sumas[static_cast<size_t>(i)] = static_cast<uint16_t>(SumaDeMarcas(tramo, i, valores) - minimo);
+    NucleoContarPalabrasEscalar(tramo, sumas.data(), cuenta);
 }
 
 void NucleoContarPalabrasEscalar(const Tramo& tramo, const uint16_t* valores, CuentaPalabras& cuenta) {

@@ -6,6 +6,7 @@
 
 #include "Figuras.h"
 #include "Nucleos.h"
+#include "NucleosValores.h"
 
 /// A bet's flag while its table is counted.
 enum EstadoApuesta : uint8_t { ApuestaPasa, ApuestaRechazada, ApuestaMuerta };
@@ -65,6 +66,12 @@ void NucleoContarBytesEscalar(const Tramo& tramo, const uint8_t* baja, const uin
 /// Adds the bets by `valores`, all below `CuentaPalabras::Valores` for live bets; 64 more may be read.
 void NucleoContarPalabras(const Tramo& tramo, const uint16_t* valores, CuentaPalabras& cuenta);
 void NucleoContarPalabrasEscalar(const Tramo& tramo, const uint16_t* valores, CuentaPalabras& cuenta);
+
+/// Adds the bets by the sum of the values of their six positions, counted from `minimo`; all below
+/// `CuentaPalabras::Valores` for live bets.
+void NucleoContarSumas(const Tramo& tramo, const PalabrasPorPosicion& valores, int16_t minimo, CuentaPalabras& cuenta);
+void NucleoContarSumasEscalar(const Tramo& tramo, const PalabrasPorPosicion& valores, int16_t minimo,
+                              CuentaPalabras& cuenta);
 
 /// Adds each of `n` bets to `pasan` or to `rechazadas` at its own place, and returns how many they are. Both
 /// have `HolguraRecuento` places more, and so many more states may be read.

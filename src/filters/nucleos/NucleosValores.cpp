@@ -19,9 +19,6 @@ namespace HWY_NAMESPACE {
 int32_t Valoraciones(const Tramo& tramo, const TablasValoraciones& tablas) {
     return NucleoValoracionesEscalar(tramo, {&tablas, 1});
 }
-void PalabrasFilas(const Tramo& tramo, const PalabrasPorPosicion& valores, int16_t minimo, const Filas<2>& filas) {
-    FilasPalabrasEscalar(tramo, valores, minimo, filas);
-}
 
 #else
 
@@ -56,23 +53,6 @@ int32_t Valoraciones(const Tramo& tramo, const TablasValoraciones& tablas) {
     return Recorrer(tramo, PruebaValoraciones(tablas));
 }
 
-struct SumaDesde {
-    SumaPalabras sumar;
-    V16 minimo;
-
-    HWY_INLINE void Dar(const Tramo& tramo, int64_t i, V (&v)[2]) const {
-        const ParPalabras suma = sumar(tramo, i);
-        const V16 pares = hn::Sub(suma.pares, minimo), impares = hn::Sub(suma.impares, minimo);
-        const V16 byte = hn::Set(d16, 0xFF);
-        v[0] = hn::BitCast(d, hn::Or(hn::And(pares, byte), hn::ShiftLeft<8>(impares)));
-        v[1] = hn::BitCast(d, hn::Or(hn::ShiftRight<8>(pares), hn::AndNot(byte, impares)));
-    }
-};
-
-void PalabrasFilas(const Tramo& tramo, const PalabrasPorPosicion& valores, int16_t minimo, const Filas<2>& filas) {
-    EscribirFilas(tramo, SumaDesde{SumaPalabras(valores), hn::Set(d16, static_cast<uint16_t>(minimo))}, filas);
-}
-
 #endif
 } // namespace HWY_NAMESPACE
 } // namespace
@@ -81,7 +61,6 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace {
 HWY_EXPORT(Valoraciones);
-HWY_EXPORT(PalabrasFilas);
 } // namespace
 
 int32_t NucleoValoraciones(const Tramo& tramo, std::span<const TablasValoraciones> tablas) {
@@ -100,19 +79,6 @@ int32_t NucleoValoracionesEscalar(const Tramo& tramo, std::span<const TablasValo
                                [&](const Intervalo& intervalo) { return intervalo.Contiene(suma); });
         });
     });
-}
-
-void FilasPalabras(const Tramo& tramo, const PalabrasPorPosicion& valores, int16_t minimo, const Filas<2>& filas) {
-    HWY_DYNAMIC_DISPATCH(PalabrasFilas)(tramo, valores, minimo, filas);
-}
-
-void FilasPalabrasEscalar(const Tramo& tramo, const PalabrasPorPosicion& valores, int16_t minimo,
-                          const Filas<2>& filas) {
-    for (int64_t i = 0; i < tramo.n; ++i) {
-        const int suma = SumaDeMarcas(tramo, i, valores) - minimo;
-        filas[0][i] = static_cast<uint8_t>(suma & 0xFF);
-        filas[1][i] = static_cast<uint8_t>(suma >> 8 & 0xFF);
-    }
 }
 
 int SumaDeMarcas(const Tramo& tramo, int64_t i, const PalabrasPorPosicion& valores) {

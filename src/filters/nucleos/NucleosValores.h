@@ -32,9 +32,5 @@ struct TablasValoraciones {
 int32_t NucleoValoraciones(const Tramo& tramo, std::span<const TablasValoraciones> tablas);
 int32_t NucleoValoracionesEscalar(const Tramo& tramo, std::span<const TablasValoraciones> tablas);
 
-/// The sum of the values of the six positions, counted from `minimo`, modulo 2^16: low bytes and high ones.
-void FilasPalabras(const Tramo& tramo, const PalabrasPorPosicion& valores, int16_t minimo, const Filas<2>& filas);
-void FilasPalabrasEscalar(const Tramo& tramo, const PalabrasPorPosicion& valores, int16_t minimo,
-                          const Filas<2>& filas);
-/// For bet `i`, exact.
+/// The sum of the values of the six positions of bet `i`, exact.
 int SumaDeMarcas(const Tramo& tramo, int64_t i, const PalabrasPorPosicion& valores);

@@ -40,8 +40,8 @@ CuentaValor SumarEstados(const uint8_t* estados, size_t n, uint16_t* pasan, uint
 #else
 
 // Each lane counts the bets of one value in a byte, in its low half those that pass and in its high half the
-// rejected ones; halves hold 15 vectors. Values from `Raros` on are looked for where there are any, and those
-// below `Primero` not at all.
+// rejected ones; halves hold 15 vectors. Values from `Raros` on are counted where whoever counts knows that there
+// are any, and those below `Primero` not at all.
 template <size_t Valores, size_t Primero = 0, size_t Raros = Valores>
 class RecuentoPequenos {
   public:
@@ -55,7 +55,8 @@ class RecuentoPequenos {
     /// `peso` is 1 for a bet that passes, 16 for a rejected one and 0 for a dead one.
     HWY_INLINE void Contar(V valor, V peso) {
         for (size_t v = Primero; v < Raros; ++v) ContarLosDe(v, valor, peso);
-        if (Raros == Valores || hn::AllFalse(d, hn::Gt(valor, hn::Set(d, Raros - 1)))) return;
+    }
+    HWY_INLINE void ContarRaros(V valor, V peso) {
         for (size_t v = Raros; v < Valores; ++v) ContarLosDe(v, valor, peso);
         hayRaros_ = true;
     }
@@ -126,9 +127,12 @@ void Pares(const Tramo& tramo, const uint8_t* valores, CuentaAciertos& baja, Cue
     PorTandas(
         tramo, recuento->Vectores,
         [&](int64_t i, V peso) HWY_ATTR {
-            const V v = hn::Load(d, valores + i);
-            recuento[0].Contar(hn::And(v, hn::Set(d, 15)), peso);
-            recuento[1].Contar(hn::ShiftRight<4>(v), peso);
+            const V v = hn::Load(d, valores + i), bajos = hn::And(v, hn::Set(d, 15)), altos = hn::ShiftRight<4>(v);
+            recuento[0].Contar(bajos, peso);
+            recuento[1].Contar(altos, peso);
+            if (hn::AllTrue(d, hn::Eq(hn::And(v, hn::Set(d, 0x44)), hn::Zero(d)))) return; // all below four
+            recuento[0].ContarRaros(bajos, peso);
+            recuento[1].ContarRaros(altos, peso);
         },
         [&]() HWY_ATTR {
             for (auto& r : recuento) r.Vaciar();
